@@ -1,0 +1,82 @@
+// The scripted window: UiServices over in-memory controls, writing one JSON line per thing a
+// user would see or hear, and taking dialog answers from a queue.
+#pragma once
+#include <deque>
+#include <map>
+#include <ostream>
+#include <string>
+
+#include "app/headless/text_field.h"
+#include "ui/ui_services.h"
+
+namespace lex::headless {
+
+struct Answer {
+  enum class Kind { Button, Input, File, Font } kind = Kind::Button;
+  Reponse button = Reponse::OK;
+  std::string text;  // Windows-1252
+  int size = 0;
+};
+
+class HeadlessWindow final : public UiServices {
+ public:
+  explicit HeadlessWindow(std::ostream& out) : out_(out) {}
+
+  TextField txt, rtb;
+  std::deque<Answer> answers;
+  bool quit = false;
+
+  TextField& Shown() { return rtbVisible_ ? rtb : txt; }
+  bool MenuEnabled(MenuId id) const;
+  const std::string& Title() const { return title_; }
+  const std::string& Message() const { return message_; }
+  bool ButtonVisible(Bouton b) const;
+
+  void SetLineText(const std::string& t) override { txt.SetText(t); }
+  std::string GetLineText() const override { return txt.Text(); }
+  void SetLineSelection(std::size_t d, std::size_t l) override;
+  Selection GetLineSelection() const override { return {txt.Caret(), txt.Length()}; }
+  void SetLineFont(const Police&) override {}
+  void SetLineEditable(bool e) override { txt.editable = e; }
+  void SetPaneText(const std::string& t) override { rtb.SetText(t); }
+  std::string GetPaneText() const override { return rtb.Text(); }
+  void SetPaneSelection(std::size_t d, std::size_t l) override;
+  Selection GetPaneSelection() const override { return {rtb.Caret(), rtb.Length()}; }
+  void SetPaneFont(const Police&) override {}
+  void SetPaneVisible(bool v) override { rtbVisible_ = v; }
+  bool IsPaneVisible() const override { return rtbVisible_; }
+  void FocusLine() override {}
+  void FocusPane() override {}
+  void SetMessage(const std::string& t) override;
+  void SetTitle(const std::string& t) override;
+  void SetButtonCaption(Bouton b, const std::string& t) override { captions_[b] = t; }
+  std::string GetButtonCaption(Bouton b) const override;
+  void SetButtonVisible(Bouton b, bool v) override { hidden_[b] = !v; }
+  void SetMenuEnabled(MenuId id, bool a) override { disabled_[id] = !a; }
+  Reponse MessageBox(const std::string& texte, Boutons boutons, Icone icone, const std::string& titre) override;
+  std::string InputBox(const std::string& invite, const std::string& titre, const std::string& defaut) override;
+  void Beep() override;
+  void ClipboardSetText(const std::string& t) override;
+  std::string ClipboardGetText() override { return clipboard_; }
+  std::string OpenFileDialog(const std::string& titre, const std::string& filtre, const std::string& dossier,
+                             const std::string& nom) override;
+  std::string SaveFileDialog(const std::string& titre, const std::string& filtre, const std::string& dossier,
+                             const std::string& nom) override;
+  std::optional<Police> FontDialog(const Police& actuelle) override;
+  void Quit() override;
+
+ private:
+  std::string FileDialog(const char* ev, const std::string& titre, const std::string& filtre,
+                         const std::string& dossier, const std::string& nom);
+  std::ostream& out_;
+  bool rtbVisible_ = false;
+  std::string title_, message_, clipboard_;
+  std::map<Bouton, std::string> captions_{{Bouton::CmdDic, "Index"}, {Bouton::CmdQuitter, "&Quitter"}};
+  std::map<Bouton, bool> hidden_;
+  std::map<MenuId, bool> disabled_;
+};
+
+// A JSON string literal (UTF-8) of Windows-1252 text.
+std::string Json(const std::string& ansi);
+
+}  // namespace lex::headless

@@ -1,0 +1,150 @@
+#include "catalogue/catalogue.h"
+
+#include <algorithm>
+
+#include "data/files.h"
+#include "data/numbers.h"
+#include "ui/error_trap.h"
+
+namespace lex {
+
+CatalogueEntry& Catalogue::operator[](int i) {
+  if (i < 1 || i > NombreDictio()) Erreur(9);
+  return entrees_[static_cast<std::size_t>(i - 1)];
+}
+
+const CatalogueEntry& Catalogue::operator[](int i) const {
+  if (i < 1 || i > NombreDictio()) Erreur(9);
+  return entrees_[static_cast<std::size_t>(i - 1)];
+}
+
+void Catalogue::Inserer(int avant, CatalogueEntry e) {
+  if (avant < 1 || avant > NombreDictio() + 1) Erreur(9);
+  entrees_.insert(entrees_.begin() + (avant - 1), std::move(e));
+}
+
+void Catalogue::Supprimer(int i) {
+  if (i < 1 || i > NombreDictio()) Erreur(9);
+  entrees_.erase(entrees_.begin() + (i - 1));
+}
+
+void InitDictio(Catalogue& c, const std::string& dossierDictio) {
+  ErrorTrap trap(" sur InirtDictio");
+  struct Fixe {
+    const char* suffixe;
+    const char* fichier;
+    const char* nom;
+    const char* lettre;
+  };
+  static const Fixe fixes[] = {
+      {"eng", "lex", "ANGLAIS francais", "A"},
+      {"fen", "lex", "FRANCAIS ANGLAIS", "F"},
+      {"inf", "lex", "INFORMATIQUE ANGLAIS FRANCAIS", "I"},
+      {"txt", "Verbes irr\xE9guliers anglais", "Verbes irr\xE9guliers anglais", "R"},
+      {"rob", "lex", "nom commun", "C"},
+      {"npr", "lex", "NOM PROPRE", "P"},
+      {"zyz", "lex", "ENCYCLOPEDIE", "E"},
+      {"ver", "lex", "CONJUGAISON", "V"},
+      {"", "lex", "Histoire", "H"},
+  };
+  c = Catalogue();
+  for (const Fixe& f : fixes) {
+    CatalogueEntry e;
+    e.Suffixe = f.suffixe;
+    e.NomFichier = f.fichier;
+    e.NomDictio = f.nom;
+    e.LettreAppel = f.lettre;
+    c.entrees().push_back(e);
+  }
+  CatalogueEntry bloc;
+  bloc.NomDictio = "BLOC NOTE";
+  bloc.LettreAppel = "B";
+  c.entrees().push_back(bloc);
+  // Index files of the earlier naming ("index.eng") are left-overs; the current ones
+  // carry the base name too ("index.lex.eng") and are not touched.
+  for (int i = 1; i <= 8; ++i) {
+    for (const char* prefixe : {"index.", "lettre."}) {
+      std::string ancien = dossierDictio + prefixe + c[i].Suffixe;
+      if (FichierExistant(ancien)) SupprimerFichier(ancien);
+    }
+  }
+}
+
+void LireLigneCatalogue(Catalogue& c, std::string_view l) {
+  CatalogueEntry e;
+  auto p = l.find(',');
+  e.PositionDictio = Val(l.substr(0, p));
+  // The suffix is always the three characters after the first comma; the rest starts after
+  // the comma that follows the suffix.
+  std::size_t apres = p == std::string_view::npos ? l.size() : p + 1;
+  e.Suffixe = std::string(l.substr(std::min(apres, l.size()), 3));
+  std::string_view r = l.substr(std::min(apres + 4, l.size()));
+  auto q = r.find(',');
+  if (q == std::string_view::npos) {
+    // A line without a comma after the name loses its first three characters.
+    e.NomDictio = std::string(r.substr(std::min<std::size_t>(3, r.size())));
+    e.LettreAppel = " ";
+  } else {
+    e.NomDictio = std::string(r.substr(0, q));
+    constexpr std::string_view kSans = "SansOrdreAlpha";
+    if (r.size() >= kSans.size() && r.substr(r.size() - kSans.size()) == kSans) {
+      e.LettreAppel = std::string(r.substr(q + 1, 1));
+      e.OrdreAlpha = false;
+    } else {
+      e.LettreAppel = std::string(r.substr(r.size() - 1));
+    }
+  }
+  e.NomFichier = e.NomDictio;
+  c.Inserer(c.NombreDictio(), std::move(e));
+}
+
+std::string LigneCatalogue(const CatalogueEntry& e) {
+  std::string l = std::to_string(e.PositionDictio) + "," + e.Suffixe + "," + e.NomDictio + "," + e.LettreAppel;
+  if (!e.OrdreAlpha) l += ",SansOrdreAlpha";
+  return l;
+}
+
+std::string complete(std::string_view texte, std::size_t largeur) {
+  std::string s(texte);
+  if (s.size() < largeur) s.append(largeur - s.size(), ' ');
+  return s;
+}
+
+void AjoutLettreAppelDictio(Catalogue& c) {
+  ErrorTrap trap("sur AjoutLettreAppelDictio");
+  std::size_t largeur = 1;
+  for (const auto& e : c.entrees()) largeur = std::max(largeur, e.NomDictio.size());
+  ++largeur;
+  for (auto& e : c.entrees()) e.LigneListe = complete(e.NomDictio, largeur) + e.LettreAppel;
+  std::string lettres = "ABCEFHIPRV";
+  for (int i = 10 + c.NombreHistoire; i <= c.NombreDictio() - 1; ++i) {
+    const std::string& l = c[i].LettreAppel;
+    if (l == " " || l.empty()) continue;
+    // Inserted before the first smaller letter from the third place on: the string does not
+    // stay sorted, and the prompts list the letters in that order.
+    const auto nouvelle = static_cast<unsigned char>(l[0]);
+    std::size_t k = 2;
+    while (k < lettres.size() && !(nouvelle > static_cast<unsigned char>(lettres[k]))) ++k;
+    lettres.insert(k, 1, l[0]);
+  }
+  c.LettresUtilisees = lettres;
+}
+
+std::string NomDictionnaire(const Catalogue& c, const std::string& dossierDictio, int i) {
+  ErrorTrap trap(" sur NomDictionnaire");
+  return dossierDictio + c[i].NomFichier + "." + c[i].Suffixe;
+}
+
+std::string NomIndex(const Catalogue& c, const std::string& dossierDictio, int i) {
+  return dossierDictio + "index." + c[i].NomFichier + "." + c[i].Suffixe;
+}
+
+std::string NomLettre(const Catalogue& c, const std::string& dossierDictio, int i) {
+  return dossierDictio + "lettre." + c[i].NomFichier + "." + c[i].Suffixe;
+}
+
+int EntreeDeLigne(const Catalogue& c, int rang) { return rang > 9 ? rang + c.NombreHistoire : rang; }
+
+int LigneDeEntree(const Catalogue& c, int entree) { return entree > 9 ? entree - c.NombreHistoire : entree; }
+
+}  // namespace lex

@@ -1,0 +1,60 @@
+// The catalogue of dictionaries: nine built-in rows (the ninth, "Histoire", opens the history
+// group), the history group, the added dictionaries, and "BLOC NOTE" always last.
+#pragma once
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace lex {
+
+struct CatalogueEntry {
+  std::string Suffixe;
+  std::string NomFichier;
+  std::string NomDictio;
+  std::string LigneListe;
+  std::string LettreAppel = " ";
+  bool OrdreAlpha = true;
+  std::int32_t PositionDictio = 1;
+  bool DicModifie = false;
+  // The dictionary's addition and selection number files are kept when saving.
+  std::int16_t GardeNumeros = 0;
+};
+
+class Catalogue {
+ public:
+  // Entries are numbered from 1 to NombreDictio(), as the lists and the configuration count them.
+  std::int16_t NombreDictio() const { return static_cast<std::int16_t>(entrees_.size()); }
+  CatalogueEntry& operator[](int i);
+  const CatalogueEntry& operator[](int i) const;
+  void Inserer(int avant, CatalogueEntry e);
+  void Supprimer(int i);
+
+  std::int16_t NombreHistoire = 0;
+  std::string LettresUtilisees;
+  std::vector<CatalogueEntry>& entrees() { return entrees_; }
+
+ private:
+  std::vector<CatalogueEntry> entrees_;
+};
+
+// The built-in entries 1..9 and "BLOC NOTE" (the catalogue is rebuilt from scratch).
+void InitDictio(Catalogue& c, const std::string& dossierDictio);
+// One configuration line after line 14: a new entry placed just before "BLOC NOTE".
+void LireLigneCatalogue(Catalogue& c, std::string_view ligne);
+// The configuration line of an added entry.
+std::string LigneCatalogue(const CatalogueEntry& e);
+// Display lines in one column, and the call letters in use.
+void AjoutLettreAppelDictio(Catalogue& c);
+// `texte` padded with blanks to `largeur` characters.
+std::string complete(std::string_view texte, std::size_t largeur);
+// Dictionary file of an entry: folder, base name, ".", suffix.
+std::string NomDictionnaire(const Catalogue& c, const std::string& dossierDictio, int i);
+std::string NomIndex(const Catalogue& c, const std::string& dossierDictio, int i);
+std::string NomLettre(const Catalogue& c, const std::string& dossierDictio, int i);
+
+// Rows of the main list: 1..9, then the added entries after the history group, then "BLOC NOTE".
+int EntreeDeLigne(const Catalogue& c, int rang);
+int LigneDeEntree(const Catalogue& c, int entree);
+
+}  // namespace lex

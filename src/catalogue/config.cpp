@@ -1,0 +1,81 @@
+#include "catalogue/config.h"
+
+#include <algorithm>
+
+#include "data/files.h"
+#include "data/numbers.h"
+#include "ui/form.h"
+
+namespace lex {
+
+std::vector<std::string> LignesUsine(const std::string& dossierProgramme) {
+  std::vector<std::string> l(8, " 1");
+  l.insert(l.end(), {"1,11", " 1", dossierProgramme + "blocnote.txt", "Courier", "10", " 1 "});
+  for (const char* nom : {"1,TXT,Chronologie histoire, ,SansOrdreAlpha",
+                          "1,txt,Chronologies diverses, ,SansOrdreAlpha",
+                          "1,txt,Chronologie sciences et techniques, ,SansOrdreAlpha",
+                          "1,txt,Sciences et techniques  , ,SansOrdreAlpha",
+                          "1,TXT,Monde, ,SansOrdreAlpha",
+                          "1,TXT,France, ,SansOrdreAlpha",
+                          "1,TXT,Allemagne, ,SansOrdreAlpha",
+                          "1,txt,\xC9gypte, ,SansOrdreAlpha",
+                          "1,txt,\xC9tats-Unis, ,SansOrdreAlpha",
+                          "1,TXT,Grande Bretagne, ,SansOrdreAlpha",
+                          "1,TXT,Russie, ,SansOrdreAlpha",
+                          "1,TXT,\xC9" "crivains,\xC9,SansOrdreAlpha"})
+    l.emplace_back(nom);
+  return l;
+}
+
+void LireConfig(Form& f) {
+  Catalogue& c = f.catalogue;
+  const std::vector<std::string> lignes = LireLignes(f.reglages.FichierConfig);
+  for (std::size_t k = 0; k < lignes.size(); ++k) {
+    const int n = static_cast<int>(k + 1);
+    const std::string& l = lignes[k];
+    const int nombre = c.NombreDictio();
+    if (n <= 8) {
+      c[n].PositionDictio = Val(l);
+    } else if (n == 9) {
+      auto virgule = l.find(',');
+      c[9].PositionDictio = Val(l.substr(0, virgule));
+      c.NombreHistoire = static_cast<std::int16_t>(
+          virgule == std::string::npos ? 0 : std::clamp(Val(l.substr(virgule + 1)), 0, 10000));
+    } else if (n == nombre) {
+      c[nombre].PositionDictio = Val(l);
+    } else if (n == nombre + 1) {
+      f.reglages.FichierBlocNote = l;
+    } else if (n == nombre + 2) {
+      f.reglages.PoliceNom = l;
+    } else if (n == nombre + 3) {
+      f.reglages.PoliceTaille = l;
+    } else if (n == nombre + 4) {
+      f.fenetre.DictioCourant = static_cast<std::int16_t>(std::clamp(Val(l), -32768, 32767));
+    } else if (n > nombre + 4 && !l.empty() && c.NombreDictio() < 32000) {
+      LireLigneCatalogue(c, l);
+    }
+  }
+  // A history group larger than the entries read would reach "BLOC NOTE" and beyond.
+  c.NombreHistoire = static_cast<std::int16_t>(std::min<int>(c.NombreHistoire, c.NombreDictio() - 10));
+}
+
+std::vector<std::string> LignesConfig(Form& f) {
+  Catalogue& c = f.catalogue;
+  std::vector<std::string> l;
+  for (int i = 1; i <= 8; ++i) l.push_back(NombreImprime(c[i].PositionDictio));
+  l.push_back(std::to_string(c[9].PositionDictio) + "," + std::to_string(c.NombreHistoire));
+  l.push_back(std::to_string(c[c.NombreDictio()].PositionDictio));
+  l.push_back(f.reglages.FichierBlocNote);
+  l.push_back(f.reglages.PoliceNom);
+  l.push_back(f.reglages.PoliceTaille);
+  int rang = 9;
+  if (!f.fenetre.ListeHistoire) {
+    if (f.fenetre.DictioCourant > 9) f.fenetre.DictioCourant = static_cast<std::int16_t>(f.fenetre.DictioCourant - c.NombreHistoire);
+    rang = f.fenetre.DictioCourant;
+  }
+  l.push_back(NombreImprime(rang) + " ");
+  for (int i = 10; i <= c.NombreDictio() - 1; ++i) l.push_back(LigneCatalogue(c[i]));
+  return l;
+}
+
+}  // namespace lex

@@ -1,0 +1,144 @@
+#include "data/files.h"
+
+#include <cerrno>
+#include <cstdio>
+#include <fstream>
+#include <memory>
+
+#include "data/encoding.h"
+#include "ui/error_trap.h"
+
+namespace lex {
+namespace fs = std::filesystem;
+
+fs::path CheminNatif(std::string_view nom) {
+  std::string utf8 = AnsiVersUtf8(nom);
+  return fs::path(std::u8string(utf8.begin(), utf8.end()));
+}
+
+std::string NomDepuisNatif(const fs::path& p) {
+  std::u8string u = p.u8string();
+  return Utf8VersAnsi(std::string(u.begin(), u.end()));
+}
+
+std::string ajoutbackslash(std::string_view chemin) {
+  std::string s(chemin);
+  if (s.empty() || (s.back() != '/' && s.back() != '\\')) s += kSeparateur;
+  return s;
+}
+
+std::string Sansbackslash(std::string_view chemin) {
+  std::string s(chemin);
+  if (!s.empty() && (s.back() == '/' || s.back() == '\\')) s.pop_back();
+  return s;
+}
+
+std::string NomFichSeul(std::string_view chemin) {
+  auto p = chemin.find_last_of("/\\");
+  return std::string(p == std::string_view::npos ? chemin : chemin.substr(p + 1));
+}
+
+std::int64_t LongueurFichier(std::string_view nom) {
+  std::error_code ec;
+  auto p = CheminNatif(nom);
+  if (!fs::is_regular_file(p, ec)) return -1;
+  auto n = fs::file_size(p, ec);
+  return ec ? -1 : static_cast<std::int64_t>(n);
+}
+
+bool FichierExistant(std::string_view nom) { return LongueurFichier(nom) >= 0; }
+
+void ErreurFichier(const std::error_code& ec) {
+  switch (ec.value()) {
+    case ENOENT: Erreur(53);
+    case ENOTDIR: Erreur(76);
+    case EACCES:
+    case EPERM:
+    case EROFS: Erreur(70);
+    case ENOSPC: Erreur(61);
+    case ENOMEM: Erreur(7);
+    case ENAMETOOLONG:
+    case EINVAL: Erreur(52);
+    default: Erreur(5);
+  }
+}
+
+namespace {
+// A missing folder is "path not found", a missing file "file not found".
+[[noreturn]] void ErreurOuverture(const fs::path& p) {
+  std::error_code ec;
+  if (p.has_parent_path() && !fs::is_directory(p.parent_path(), ec)) Erreur(76);
+  ErreurFichier(std::error_code(errno ? errno : ENOENT, std::generic_category()));
+}
+
+struct Fermeur {
+  void operator()(std::FILE* f) const { std::fclose(f); }
+};
+using Fichier = std::unique_ptr<std::FILE, Fermeur>;
+
+Fichier Ouvrir(std::string_view nom, const char* mode) {
+  auto p = CheminNatif(nom);
+  errno = 0;
+  Fichier f(std::fopen(p.c_str(), mode));
+  if (!f) ErreurOuverture(p);
+  return f;
+}
+}  // namespace
+
+void CopierFichier(std::string_view source, std::string_view destination) {
+  std::error_code ec;
+  fs::copy_file(CheminNatif(source), CheminNatif(destination), fs::copy_options::overwrite_existing, ec);
+  if (ec) ErreurFichier(ec);
+}
+
+void SupprimerFichier(std::string_view nom) {
+  std::error_code ec;
+  if (!fs::remove(CheminNatif(nom), ec) && !ec) ec = std::make_error_code(std::errc::no_such_file_or_directory);
+  if (ec) ErreurFichier(ec);
+}
+
+void RenommerFichier(std::string_view ancien, std::string_view nouveau) {
+  std::error_code ec;
+  fs::rename(CheminNatif(ancien), CheminNatif(nouveau), ec);
+  if (ec) ErreurFichier(ec);
+}
+
+std::vector<std::string> LireLignes(std::string_view nom) {
+  Fichier f = Ouvrir(nom, "rb");
+  std::string tout;
+  char tampon[65536];
+  std::size_t n;
+  while ((n = std::fread(tampon, 1, sizeof tampon, f.get())) > 0) tout.append(tampon, n);
+  std::vector<std::string> lignes;
+  std::size_t debut = 0;
+  while (debut < tout.size()) {
+    std::size_t fin = tout.find('\n', debut);
+    std::size_t suivant = fin == std::string::npos ? tout.size() : fin + 1;
+    if (fin == std::string::npos) fin = tout.size();
+    else if (fin > debut && tout[fin - 1] == '\r') --fin;
+    lignes.emplace_back(tout, debut, fin - debut);
+    debut = suivant;
+  }
+  return lignes;
+}
+
+void EcrireLignes(std::string_view nom, const std::vector<std::string>& lignes) {
+  Fichier f = Ouvrir(nom, "wb");
+  for (const auto& l : lignes) {
+    if (std::fwrite(l.data(), 1, l.size(), f.get()) != l.size() || std::fwrite("\r\n", 1, 2, f.get()) != 2)
+      ErreurFichier(std::error_code(errno ? errno : ENOSPC, std::generic_category()));
+  }
+  if (std::fflush(f.get()) != 0) ErreurFichier(std::error_code(errno ? errno : ENOSPC, std::generic_category()));
+}
+
+std::string LireOctets(std::string_view nom, std::int64_t debut, std::int64_t longueur) {
+  if (debut < 0 || longueur < 0) Erreur(5);
+  Fichier f = Ouvrir(nom, "rb");
+  std::string tampon(static_cast<std::size_t>(longueur), ' ');
+  if (longueur == 0) return tampon;
+  if (std::fseek(f.get(), static_cast<long>(debut), SEEK_SET) != 0) return tampon;
+  std::fread(tampon.data(), 1, tampon.size(), f.get());
+  return tampon;
+}
+
+}  // namespace lex

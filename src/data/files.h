@@ -1,0 +1,50 @@
+// Files and paths. Names are Windows-1252 text in the core and are converted to the file
+// system's own encoding only here. Failures raise the classic run-time errors.
+#pragma once
+#include <cstdint>
+#include <filesystem>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace lex {
+
+#ifdef _WIN32
+inline constexpr char kSeparateur = '\\';
+#else
+inline constexpr char kSeparateur = '/';
+#endif
+
+std::filesystem::path CheminNatif(std::string_view nom);
+// A path from the file system, as core text.
+std::string NomDepuisNatif(const std::filesystem::path& p);
+
+// The path with one folder separator at its end, added only when missing.
+std::string ajoutbackslash(std::string_view chemin);
+// The path without a final separator.
+std::string Sansbackslash(std::string_view chemin);
+// The file name without its folder; cuts at either separator.
+std::string NomFichSeul(std::string_view chemin);
+
+// True when the file's length can be read; never reports anything.
+bool FichierExistant(std::string_view nom);
+// Length in bytes, or -1 when it cannot be read.
+std::int64_t LongueurFichier(std::string_view nom);
+
+void CopierFichier(std::string_view source, std::string_view destination);
+void SupprimerFichier(std::string_view nom);
+void RenommerFichier(std::string_view ancien, std::string_view nouveau);
+
+// The lines of a text file, each without its line end; a CR before LF belongs to the line
+// end, so LF-only and mixed files read like CR LF ones. Error 53 when the file is missing.
+std::vector<std::string> LireLignes(std::string_view nom);
+// Writes each line followed by CR LF, replacing the file.
+void EcrireLignes(std::string_view nom, const std::vector<std::string>& lignes);
+
+// Reads `longueur` bytes from `debut`; bytes past the end of the file stay blanks.
+std::string LireOctets(std::string_view nom, std::int64_t debut, std::int64_t longueur);
+
+// Maps an errno-style failure to the classic error number.
+[[noreturn]] void ErreurFichier(const std::error_code& ec);
+
+}  // namespace lex

@@ -1,0 +1,87 @@
+#include "data/folding.h"
+
+#include <array>
+
+#include "data/encoding.h"
+#include "ui/error_trap.h"
+
+namespace lex {
+namespace {
+
+// Folding is applied character by character: an accented letter becomes its plain letters,
+// a removed character disappears, everything else is upper-cased. The replacements never
+// produce a character that a later step would touch again, so one pass equals the
+// sequence replace-all / remove-all / upper-case.
+struct Table {
+  std::array<std::string, 256> sortie;
+};
+
+Table Construit(std::string_view ponctuation) {
+  Table t;
+  for (int b = 0; b < 256; ++b) t.sortie[b] = std::string(1, MajusculeAnsi(static_cast<char>(b)));
+  for (char c : ponctuation) t.sortie[static_cast<unsigned char>(c)].clear();
+  // Accent list, lower-case then upper-case forms, with their replacement.
+  const std::string_view accents = "\xE5\xE1`\xE0\xE2\xE4\xE3\xE6\xE7\xE9\xE8\xEA\xEB\xEC\xED\xEE\xEF\xF1\xF3\xF2\xF4\xF6\xF5\xF8\x9C\xFA\xF9\xFB\xFC\xFD";
+  const char* remplace[30] = {"A", "A", "A", "A", "A", "A", "A", "AE", "C", "E", "E", "E", "E", "I", "I", "I", "I", "N",
+                              "O", "O", "O", "O", "O", "O", "OE", "U", "U", "U", "U", "Y"};
+  for (std::size_t i = 0; i < accents.size(); ++i) {
+    t.sortie[static_cast<unsigned char>(accents[i])] = remplace[i];
+    t.sortie[static_cast<unsigned char>(MajusculeAnsi(accents[i]))] = remplace[i];
+  }
+  return t;
+}
+
+// Small tilde, tilde, #, both double quotes, blank, comma, ; ! . - + ' left quote, () {} [] \ /
+const Table& TableComplete() {
+  static const Table t = Construit(std::string_view("\x98~#\x93\x94 ,;!.-+'\x91(){}[]\\/"));
+  return t;
+}
+const Table& TableEpure() {
+  static const Table t = Construit(std::string_view("\x98~#\x93\x94 ;!.-'\x91{}\\/"));
+  return t;
+}
+const Table& TableSeule() {
+  static const Table t = Construit(std::string_view());
+  return t;
+}
+
+std::string Plie(std::string_view texte, const Table& t) {
+  std::string out;
+  out.reserve(texte.size());
+  for (char c : texte) out += t.sortie[static_cast<unsigned char>(c)];
+  return out;
+}
+
+}  // namespace
+
+std::string Sansaccent(std::string_view texte) { return Plie(texte, TableComplete()); }
+std::string SansAccentSeul(std::string_view texte) { return Plie(texte, TableSeule()); }
+std::string SansaccentEpure(std::string_view texte) { return Plie(texte, TableEpure()); }
+
+void SansaccentEpureDans(std::string_view texte, std::string& out) {
+  const Table& t = TableEpure();
+  for (char c : texte) {
+    const std::string& s = t.sortie[static_cast<unsigned char>(c)];
+    if (s.size() == 1) out.push_back(s[0]);
+    else out.append(s);
+  }
+}
+
+std::string EXTRAITMOT_separateur(std::string_view chaine, int position, std::string_view separateur) {
+  if (position < 1) Erreur(5);
+  auto estSep = [&](std::size_t i) { return separateur.find(chaine[i - 1]) != std::string_view::npos; };
+  auto pos = static_cast<std::size_t>(position);
+  if (pos > chaine.size() || estSep(pos)) return {};
+  std::size_t i = pos;
+  while (i != 1 && !estSep(i)) --i;
+  if (estSep(i)) ++i;
+  std::string mot;
+  while (i <= chaine.size() && !estSep(i)) mot += chaine[i++ - 1];
+  return mot;
+}
+
+std::string EXTRAITMOT(std::string_view chaine, int position) {
+  return EXTRAITMOT_separateur(chaine, position, " ");
+}
+
+}  // namespace lex

@@ -1,0 +1,24 @@
+// The three foldings of index text. Keys stored in index files are made with them, so any
+// change here breaks look-ups against index files built earlier.
+#pragma once
+#include <string>
+#include <string_view>
+
+namespace lex {
+
+// Accents folded, the full punctuation set (blank included) removed, upper-cased.
+std::string Sansaccent(std::string_view texte);
+// Accents folded and upper-cased; blanks and punctuation kept.
+std::string SansAccentSeul(std::string_view texte);
+// Accents folded, the reduced set removed (comma, plus, brackets kept so that notes can be
+// cut off a headword), upper-cased.
+std::string SansaccentEpure(std::string_view texte);
+// Same as SansaccentEpure, appended to `out` without a temporary (index building).
+void SansaccentEpureDans(std::string_view texte, std::string& out);
+
+// The word of `chaine` covering the 1-based `position`; any character of `separateur` ends a
+// word. Throws error 5 for a position below 1.
+std::string EXTRAITMOT_separateur(std::string_view chaine, int position, std::string_view separateur);
+std::string EXTRAITMOT(std::string_view chaine, int position);
+
+}  // namespace lex

@@ -1,0 +1,293 @@
+#include "data/index_file.h"
+
+#include <cstdio>
+#include <cstring>
+#include <limits>
+#include <memory>
+#include <vector>
+
+#include "data/files.h"
+#include "data/folding.h"
+#include "data/numbers.h"
+#include "ui/error_trap.h"
+
+namespace lex {
+namespace {
+
+struct Fermeur {
+  void operator()(std::FILE* f) const { std::fclose(f); }
+};
+using Fichier = std::unique_ptr<std::FILE, Fermeur>;
+
+Fichier Ouvrir(std::string_view nom, const char* mode) {
+  errno = 0;
+  Fichier f(std::fopen(CheminNatif(nom).c_str(), mode));
+  if (!f) ErreurFichier(std::error_code(errno ? errno : ENOENT, std::generic_category()));
+  return f;
+}
+
+void Ecrire(std::FILE* f, const char* p, std::size_t n) {
+  if (n && std::fwrite(p, 1, n, f) != n) ErreurFichier(std::error_code(errno ? errno : ENOSPC, std::generic_category()));
+}
+
+void PoseChamp(char* dest, std::string_view s) {
+  std::memset(dest, ' ', kTailleChamp);
+  std::memcpy(dest, s.data(), std::min(s.size(), kTailleChamp));
+}
+
+void PoseValeur(char* dest, std::int32_t v) {
+  auto u = static_cast<std::uint32_t>(v);
+  for (int i = 0; i < 4; ++i) dest[i] = static_cast<char>((u >> (8 * i)) & 0xFF);
+}
+
+std::int32_t LitValeur(const char* p) {
+  std::uint32_t u = 0;
+  for (int i = 0; i < 4; ++i) u |= static_cast<std::uint32_t>(static_cast<unsigned char>(p[i])) << (8 * i);
+  return static_cast<std::int32_t>(u);
+}
+
+std::string_view SansBlancsFinaux(const char* p, std::size_t n) {
+  while (n > 0 && p[n - 1] == ' ') --n;
+  return {p, n};
+}
+
+// The record through which every index-file write goes; its key field keeps what it last
+// held, which is what the two header records carry.
+struct Enreg {
+  char octets[kTailleEnreg];
+  Enreg() { std::memset(octets, ' ', kTailleEnreg); }
+  void Index(std::string_view s) { PoseChamp(octets, s); }
+  void Cle(std::string_view s) { PoseChamp(octets + kTailleChamp, s); }
+  void Valeur(std::int32_t v) { PoseValeur(octets + 2 * kTailleChamp, v); }
+};
+
+std::int32_t Offset32(std::int64_t v) {
+  if (v > std::numeric_limits<std::int32_t>::max()) Erreur(6);
+  return static_cast<std::int32_t>(v);
+}
+
+bool EstLettre(char c) { return c >= 'A' && c <= 'Z'; }
+bool EstLettreOuAro(char c) { return c >= '@' && c <= 'Z'; }
+
+// Where the letter loop is, for the diagnostic line of a failed build.
+struct Diagnostic {
+  char l1 = '@', l2 = '@', l3 = '@';
+  std::int32_t article = 0;
+  const IndexTable* table = nullptr;
+};
+Diagnostic* diagnosticEnCours = nullptr;
+
+}  // namespace
+
+void RemplirTableLettre(const IndexTable& table, TableLettre& lettres, int& compteurBip,
+                        const std::function<void()>& bip) {
+  lettres = TableLettre();
+  std::string precedent;
+  char prec2 = '@', prec3 = '@';
+  for (std::int32_t k = 1; k <= table.NombreArticle(); ++k) {
+    if (diagnosticEnCours) diagnosticEnCours->article = k;
+    if (++compteurBip == 20000) {
+      bip();
+      compteurBip = 0;
+    }
+    std::string_view cle = table.cle(k);
+    std::size_t coupe = cle.find('(');
+    if (coupe == std::string_view::npos) coupe = cle.find('[');
+    if (coupe == std::string_view::npos) coupe = cle.find(',');
+    if (coupe == 0) continue;
+    if (coupe != std::string_view::npos) cle = cle.substr(0, coupe);
+    std::string_view prefixe = cle.substr(0, 3);
+    if (!(prefixe > std::string_view(precedent))) continue;
+    if (!EstLettre(prefixe[0])) continue;
+    char l1 = prefixe[0];
+    char l2 = prefixe.size() >= 2 ? prefixe[1] : '@';
+    char l3 = prefixe.size() == 3 ? prefixe[2] : '@';
+    if (!EstLettreOuAro(l2)) l2 = l3 = 'A';
+    else if (!EstLettreOuAro(l3)) l3 = 'A';
+    if (diagnosticEnCours) *diagnosticEnCours = {l1, l2, l3, k, &table};
+    const std::int32_t herite = lettres(l1, prec2, prec3);
+    for (char s2 = static_cast<char>(prec2 + 1); s2 <= 'Z'; ++s2)
+      for (char s3 = static_cast<char>(prec3 + 1); s3 <= 'Z'; ++s3) lettres(l1, s2, s3) = herite;
+    lettres(l1, l2, l3) = k;
+    precedent.assign(prefixe);
+    prec2 = l2;
+    prec3 = l3;
+  }
+}
+
+void ConstruireIndex(const FichiersIndex& f, bool ordreAlpha, IndexTable& table, TableLettre& lettres,
+                     const std::function<void()>& bip) {
+  Diagnostic diag;
+  diag.table = &table;
+  diagnosticEnCours = &diag;
+  struct Remise {
+    ~Remise() { diagnosticEnCours = nullptr; }
+  } remise;
+  ErrorTrap trap(" sur InitIndex", [&diag] {
+    std::string texte;
+    if (diag.table && diag.article >= 1 && diag.article <= diag.table->NombreArticle())
+      texte = std::string(diag.table->texte(diag.article));
+    return "l=" + std::string{diag.l1} + ";" + std::string{diag.l2} + ";" + std::string{diag.l3} + ";" +
+           std::to_string(diag.article) + ";" + texte;
+  });
+
+  Fichier dic = Ouvrir(f.dictio, "rb");
+  Fichier idx = Ouvrir(f.index, "wb");
+  Enreg enreg;
+  enreg.Index(kVersionIndex);
+  Ecrire(idx.get(), enreg.octets, kTailleEnreg);
+  enreg.Index("");
+  Ecrire(idx.get(), enreg.octets, kTailleEnreg);
+
+  table.Vider();
+  std::int64_t taille = LongueurFichier(f.dictio);
+  if (taille > 0) table.Reserver(static_cast<std::size_t>(taille / 200 + 16), 0);
+
+  std::vector<char> tampon(1 << 22);
+  std::size_t debut = 0, fin = 0;  // unread bytes are tampon[debut, fin)
+  bool eof = false;
+  std::string sortie;
+  sortie.reserve(kTailleEnreg * 8192);
+  std::string cle;
+  std::int64_t offset = 0;
+  std::int32_t nombre = 0;
+  int compteurBip = 0;
+  bool ligneIndex = true;
+
+  for (;;) {
+    const char* p = tampon.data() + debut;
+    const char* nl = static_cast<const char*>(std::memchr(p, '\n', fin - debut));
+    if (!nl && !eof) {
+      // Keep the partial line and read more; grow for a line longer than the buffer.
+      std::memmove(tampon.data(), p, fin - debut);
+      fin -= debut;
+      debut = 0;
+      if (fin == tampon.size()) tampon.resize(tampon.size() * 2);
+      std::size_t n = std::fread(tampon.data() + fin, 1, tampon.size() - fin, dic.get());
+      if (n == 0) eof = true;
+      fin += n;
+      continue;
+    }
+    if (!nl && debut == fin) break;
+    std::size_t longueur = nl ? static_cast<std::size_t>(nl - p) : fin - debut;
+    std::size_t finDeLigne = nl ? 1 : 0;
+    if (nl && longueur > 0 && p[longueur - 1] == '\r') {
+      --longueur;
+      finDeLigne = 2;
+    }
+    std::string_view ligne(p, longueur);
+    if (ligne.empty()) {
+      ligneIndex = true;
+    } else if (ligneIndex) {
+      ++nombre;
+      cle.clear();
+      SansaccentEpureDans(ligne, cle);
+      enreg.Index(ligne);
+      enreg.Cle(cle);
+      enreg.Valeur(Offset32(offset));
+      sortie.append(enreg.octets, kTailleEnreg);
+      if (sortie.size() >= kTailleEnreg * 8192) {
+        Ecrire(idx.get(), sortie.data(), sortie.size());
+        sortie.clear();
+      }
+      table.Ajouter(ligne, cle, Offset32(offset));
+      ligneIndex = false;
+      if (++compteurBip == 25000) {
+        bip();
+        compteurBip = 0;
+      }
+    }
+    offset += static_cast<std::int64_t>(longueur + finDeLigne);
+    debut += longueur + finDeLigne;
+    if (!nl) break;
+  }
+  dic.reset();
+  Ecrire(idx.get(), sortie.data(), sortie.size());
+
+  taille = LongueurFichier(f.dictio);
+  if (std::fseek(idx.get(), 0, SEEK_SET) != 0) Erreur(52);
+  enreg.Index(kVersionIndex);
+  enreg.Valeur(nombre);
+  Ecrire(idx.get(), enreg.octets, kTailleEnreg);
+  enreg.Index("");
+  enreg.Valeur(Offset32(taille));
+  Ecrire(idx.get(), enreg.octets, kTailleEnreg);
+  if (std::fflush(idx.get()) != 0) ErreurFichier(std::error_code(errno ? errno : ENOSPC, std::generic_category()));
+  idx.reset();
+
+  table.Terminer(Offset32(taille));
+  RemplirTableLettre(table, lettres, compteurBip, bip);
+  if (!ordreAlpha) return;
+  std::string lignes;
+  lignes.reserve(TableLettre::kTaille * 8);
+  for (std::int32_t v : lettres.valeurs()) lignes.append(NombreImprime(v)).append("\r\n");
+  Fichier let = Ouvrir(f.lettre, "wb");
+  Ecrire(let.get(), lignes.data(), lignes.size());
+  if (std::fflush(let.get()) != 0) ErreurFichier(std::error_code(errno ? errno : ENOSPC, std::generic_category()));
+}
+
+std::string VersionIndex(std::string_view fichierIndex) {
+  std::FILE* brut = std::fopen(CheminNatif(fichierIndex).c_str(), "rb");
+  if (!brut) return {};
+  Fichier f(brut);
+  char tete[kTailleChamp];
+  if (std::fread(tete, 1, kTailleChamp, f.get()) != kTailleChamp) return {};
+  std::string_view v = SansBlancsFinaux(tete, kTailleChamp);
+  while (!v.empty() && v.front() == ' ') v.remove_prefix(1);
+  return std::string(v);
+}
+
+EtatIndex LireIndex(const FichiersIndex& f, std::int64_t tailleDictio, IndexTable& table, TableLettre& lettres) {
+  table.Vider();
+  if (VersionIndex(f.index) != kVersionIndex) return EtatIndex::Version;
+  std::FILE* brut = std::fopen(CheminNatif(f.index).c_str(), "rb");
+  if (!brut) return EtatIndex::Perime;
+  Fichier idx(brut);
+  char tete[2 * kTailleEnreg];
+  if (std::fread(tete, 1, sizeof tete, idx.get()) != sizeof tete) return EtatIndex::Perime;
+  const std::int32_t nombre = LitValeur(tete + 2 * kTailleChamp);
+  const std::int32_t taille = LitValeur(tete + kTailleEnreg + 2 * kTailleChamp);
+  if (taille != tailleDictio || nombre < 0) return EtatIndex::Perime;
+  const std::int64_t longueurIndex = LongueurFichier(f.index);
+  if (longueurIndex < (static_cast<std::int64_t>(nombre) + 2) * static_cast<std::int64_t>(kTailleEnreg))
+    return EtatIndex::Perime;
+
+  table.Reserver(static_cast<std::size_t>(nombre), 0);
+  constexpr std::size_t kParLecture = 8192;
+  std::vector<char> tampon(kParLecture * kTailleEnreg);
+  std::int64_t precedente = -1;
+  for (std::int32_t lus = 0; lus < nombre;) {
+    std::size_t voulus = std::min<std::size_t>(kParLecture, static_cast<std::size_t>(nombre - lus));
+    if (std::fread(tampon.data(), kTailleEnreg, voulus, idx.get()) != voulus) {
+      table.Vider();
+      return EtatIndex::Perime;
+    }
+    for (std::size_t r = 0; r < voulus; ++r) {
+      const char* e = tampon.data() + r * kTailleEnreg;
+      std::int32_t pos = LitValeur(e + 2 * kTailleChamp);
+      // Offsets must rise strictly inside the file, or the articles would be read wrongly.
+      if (pos <= precedente || pos >= taille) {
+        table.Vider();
+        return EtatIndex::Perime;
+      }
+      precedente = pos;
+      table.Ajouter(SansBlancsFinaux(e, kTailleChamp), SansBlancsFinaux(e + kTailleChamp, kTailleChamp), pos);
+    }
+    lus += static_cast<std::int32_t>(voulus);
+  }
+  table.Terminer(taille);
+
+  if (!FichierExistant(f.lettre)) {
+    table.Vider();
+    return EtatIndex::Perime;
+  }
+  std::vector<std::string> lignes = LireLignes(f.lettre);
+  if (lignes.size() < TableLettre::kTaille) {
+    table.Vider();
+    return EtatIndex::Perime;
+  }
+  for (std::size_t i = 0; i < TableLettre::kTaille; ++i) lettres.valeurs()[i] = Val(lignes[i]);
+  return EtatIndex::Charge;
+}
+
+}  // namespace lex

@@ -1,0 +1,71 @@
+#include "data/index_table.h"
+
+#include <algorithm>
+#include <cstring>
+
+#include "ui/error_trap.h"
+
+namespace lex {
+
+void IndexTable::Vider() { *this = IndexTable(); }
+
+void IndexTable::Reserver(std::size_t entrees, std::size_t) {
+  refs_.reserve(entrees);
+  positions_.reserve(entrees + 1);
+}
+
+void IndexTable::Ajouter(std::string_view texte, std::string_view cle, std::int32_t position) {
+  std::size_t n = texte.size() + cle.size();
+  if (n > libre_) {
+    tailleBloc_ = std::max(kBloc, n);
+    blocs_.emplace_back(new char[tailleBloc_]);
+    libre_ = tailleBloc_;
+  }
+  char* p = blocs_.back().get() + (tailleBloc_ - libre_);
+  std::memcpy(p, texte.data(), texte.size());
+  std::memcpy(p + texte.size(), cle.data(), cle.size());
+  refs_.push_back({static_cast<std::uint32_t>(blocs_.size() - 1), static_cast<std::uint32_t>(tailleBloc_ - libre_),
+                   static_cast<std::uint32_t>(texte.size()), static_cast<std::uint32_t>(cle.size())});
+  libre_ -= n;
+  positions_.push_back(position);
+}
+
+void IndexTable::Terminer(std::int32_t tailleDictio) {
+  taille_ = tailleDictio;
+  positions_.push_back(tailleDictio);
+  refs_.shrink_to_fit();
+  positions_.shrink_to_fit();
+}
+
+void IndexTable::Verifier(std::int32_t i, bool sentinelle) const {
+  if (i < 1 || i > NombreArticle() + (sentinelle ? 1 : 0)) Erreur(9);
+}
+
+std::string_view IndexTable::texte(std::int32_t i) const {
+  Verifier(i, true);
+  if (i == NombreArticle() + 1) return {};
+  if (!textesChanges_.empty()) {
+    auto it = textesChanges_.find(i);
+    if (it != textesChanges_.end()) return it->second;
+  }
+  const Ref& r = refs_[i - 1];
+  return {blocs_[r.bloc].get() + r.debut, r.longTexte};
+}
+
+std::string_view IndexTable::cle(std::int32_t i) const {
+  Verifier(i, false);
+  const Ref& r = refs_[i - 1];
+  return {blocs_[r.bloc].get() + r.debut + r.longTexte, r.longCle};
+}
+
+std::int32_t IndexTable::position(std::int32_t i) const {
+  Verifier(i, true);
+  return static_cast<std::size_t>(i) <= positions_.size() ? positions_[i - 1] : taille_;
+}
+
+void IndexTable::ChangerTexte(std::int32_t i, std::string texte) {
+  Verifier(i, false);
+  textesChanges_[i] = std::move(texte);
+}
+
+}  // namespace lex

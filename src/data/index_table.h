@@ -1,0 +1,56 @@
+// The in-memory index of one dictionary: every index line with its folded key and the byte
+// offset of its article. A large dictionary has a million entries, so the texts live in a
+// few big blocks instead of a million small strings.
+#pragma once
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+#include <vector>
+
+namespace lex {
+
+class IndexTable {
+ public:
+  IndexTable() = default;
+  IndexTable(IndexTable&&) = default;
+  IndexTable& operator=(IndexTable&&) = default;
+
+  void Vider();
+  void Reserver(std::size_t entrees, std::size_t octets);
+  // Appends entry NombreArticle() + 1.
+  void Ajouter(std::string_view texte, std::string_view cle, std::int32_t position);
+  // Closes the table with the sentinel whose position is the file length.
+  void Terminer(std::int32_t tailleDictio);
+
+  std::int32_t NombreArticle() const { return static_cast<std::int32_t>(refs_.size()); }
+  // Entries are numbered from 1; the sentinel is NombreArticle() + 1 and has an empty text.
+  std::string_view texte(std::int32_t i) const;
+  std::string_view cle(std::int32_t i) const;
+  std::int32_t position(std::int32_t i) const;
+  std::int32_t TailleDictio() const { return taille_; }
+
+  // Selection and addition marks rewrite an entry's text in memory only.
+  void ChangerTexte(std::int32_t i, std::string texte);
+
+ private:
+  struct Ref {
+    std::uint32_t bloc;
+    std::uint32_t debut;
+    std::uint32_t longTexte;
+    std::uint32_t longCle;
+  };
+  void Verifier(std::int32_t i, bool sentinelle) const;
+
+  static constexpr std::size_t kBloc = 1 << 22;
+  std::vector<std::unique_ptr<char[]>> blocs_;
+  std::size_t libre_ = 0;  // bytes left in the last block
+  std::size_t tailleBloc_ = 0;
+  std::vector<Ref> refs_;
+  std::vector<std::int32_t> positions_;
+  std::int32_t taille_ = 0;
+  std::unordered_map<std::int32_t, std::string> textesChanges_;
+};
+
+}  // namespace lex
