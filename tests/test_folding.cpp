@@ -1,0 +1,54 @@
+#include <gtest/gtest.h>
+
+#include "data/encoding.h"
+#include "data/folding.h"
+#include "ui/error_trap.h"
+
+using namespace lex;
+
+TEST(Folding, AccentsAndCaseInAllThreeVariants) {
+  for (auto plie : {Sansaccent, SansAccentSeul, SansaccentEpure}) {
+    EXPECT_EQ(plie("\xC9l\xE8ve"), "ELEVE");
+    EXPECT_EQ(plie("c\x9Cur"), "COEUR");
+    EXPECT_EQ(plie("\xC6sop"), "AESOP");
+    EXPECT_EQ(plie("a`b"), "AAB");  // the lone grave accent is a letter A
+    EXPECT_EQ(plie("\xFF\x9A\xDF"), "\x9F\x8A\xDF");  // ÿ š stay letters, upper-cased; ß stays
+  }
+}
+
+TEST(Folding, EachVariantRemovesItsOwnPunctuation) {
+  const std::string ane = "l'\xE2ne (n.m.)";
+  EXPECT_EQ(Sansaccent(ane), "LANENM");
+  EXPECT_EQ(SansaccentEpure(ane), "LANE(NM)");
+  EXPECT_EQ(SansAccentSeul(ane), "L'ANE (N.M.)");
+  EXPECT_EQ(Sansaccent("chat noir"), Sansaccent("CHATNOIR"));
+  // Typographic marks: small tilde and the double and left quotes go, the right quote stays.
+  EXPECT_EQ(Sansaccent("\x98\x93x\x94\x91y\x92"), "XY\x92");
+  EXPECT_EQ(SansaccentEpure("a+b,c[d]"), "A+B,C[D]");
+  EXPECT_EQ(Sansaccent("a+b,c[d]{e}\\f/g"), "ABCDEFG");
+  std::string dans = "X";
+  SansaccentEpureDans("\xE9t\xE9 (n.m.)", dans);
+  EXPECT_EQ(dans, "XETE(NM)");
+}
+
+TEST(Folding, WordExtraction) {
+  EXPECT_EQ(EXTRAITMOT("le petit chat", 5), "petit");
+  EXPECT_EQ(EXTRAITMOT("le petit chat", 8), "petit");
+  EXPECT_EQ(EXTRAITMOT("le petit chat", 1), "le");
+  EXPECT_EQ(EXTRAITMOT("le petit chat", 3), "");
+  EXPECT_EQ(EXTRAITMOT("le petit chat", 14), "");
+  EXPECT_EQ(EXTRAITMOT_separateur("a-b,c", 3, "-,"), "b");
+  EXPECT_THROW(EXTRAITMOT("abc", 0), LexError);
+}
+
+TEST(Encoding, RoundTripAndReplacement) {
+  const std::string ansi = "\xE9t\xE9 \x80 \x9C \x85";
+  EXPECT_EQ(AnsiVersUtf8(ansi), "\xC3\xA9t\xC3\xA9 \xE2\x82\xAC \xC5\x93 \xE2\x80\xA6");
+  EXPECT_EQ(Utf8VersAnsi(AnsiVersUtf8(ansi)), ansi);
+  // Outside Windows-1252: replaced, not crashed on; broken UTF-8 kept byte for byte.
+  EXPECT_EQ(Utf8VersAnsi("\xE2\x86\x92 \xF0\x9F\x98\x80"), "? ?");
+  EXPECT_EQ(Utf8VersAnsi("\xE9t\xC3"), "\xE9t\xC3");
+  std::string tous;
+  for (int b = 0; b < 256; ++b) tous += static_cast<char>(b);
+  EXPECT_EQ(Utf8VersAnsi(AnsiVersUtf8(tous)).size(), 256u);
+}

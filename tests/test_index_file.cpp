@@ -1,0 +1,160 @@
+#include <gtest/gtest.h>
+
+#include "data/files.h"
+#include "data/index_file.h"
+#include "test_support.h"
+
+using namespace lex;
+
+namespace {
+
+struct Index {
+  test::DossierTemp d;
+  FichiersIndex f{d.Chemin("dic.txt"), d.Chemin("index.dic.txt"), d.Chemin("lettre.dic.txt")};
+  IndexTable table;
+  TableLettre lettres;
+  int bips = 0;
+  void Construit(const std::string& contenu, bool alpha = true) {
+    d.Ecrire("dic.txt", contenu);
+    ConstruireIndex(f, alpha, table, lettres, [this] { ++bips; });
+  }
+  std::string Enreg(int n) { return d.Lire("index.dic.txt").substr(static_cast<std::size_t>(n - 1) * 144, 144); }
+};
+
+std::string Champ(const std::string& s) { return s + std::string(70 - s.size(), ' '); }
+std::string Valeur(std::int32_t v) {
+  std::string o(4, '\0');
+  for (int i = 0; i < 4; ++i) o[i] = static_cast<char>((static_cast<std::uint32_t>(v) >> (8 * i)) & 0xFF);
+  return o;
+}
+
+}  // namespace
+
+TEST(IndexFile, RecordsByteForByte) {
+  Index x;
+  const std::string longue(75, 'x');
+  x.Construit("\xE9t\xE9 (n.m.)\r\nsummer\r\n\r\n" + longue + "\r\nd\r\n");
+  const std::string idx = x.d.Lire("index.dic.txt");
+  ASSERT_EQ(idx.size(), 4u * 144);
+  // Header records carry the key the buffer last held, here the last article's.
+  const std::string cleLongue = std::string(70, 'X');
+  EXPECT_EQ(x.Enreg(1), Champ("1.20") + cleLongue + Valeur(2));
+  EXPECT_EQ(x.Enreg(2), Champ("") + cleLongue + Valeur(22 + 75 + 5));
+  EXPECT_EQ(x.Enreg(3), Champ("\xE9t\xE9 (n.m.)") + Champ("ETE(NM)") + Valeur(0));
+  EXPECT_EQ(x.Enreg(4), std::string(70, 'x') + cleLongue + Valeur(22));
+  // The table keeps the whole line and sentinel.
+  EXPECT_EQ(x.table.NombreArticle(), 2);
+  EXPECT_EQ(x.table.texte(2), longue);
+  EXPECT_EQ(x.table.position(3), 22 + 75 + 5);
+  EXPECT_EQ(x.table.texte(3), "");
+}
+
+TEST(IndexFile, EmptyDictionaryHasOnlyTheHeader) {
+  Index x;
+  x.Construit("");
+  EXPECT_EQ(x.d.Lire("index.dic.txt").size(), 288u);
+  EXPECT_EQ(x.table.NombreArticle(), 0);
+  EXPECT_EQ(x.table.position(1), 0);
+  x.Construit("\r\n\r\n\r\n");  // only empty lines: no article either
+  EXPECT_EQ(x.table.NombreArticle(), 0);
+  EXPECT_EQ(x.table.position(1), 6);
+}
+
+TEST(IndexFile, LineEndsOfEveryKindCountTheirRealBytes) {
+  Index x;
+  x.Construit("a\nb\n\nc\r\nd\r\n\r\n\r\ne");
+  ASSERT_EQ(x.table.NombreArticle(), 3);
+  EXPECT_EQ(x.table.position(2), 5);
+  EXPECT_EQ(x.table.position(3), 15);
+  EXPECT_EQ(x.table.position(4), 16);
+  // A line of 100,000 characters is an index line like any other.
+  x.Construit(std::string(100000, 'z') + "\r\ndef\r\n\r\nmot\r\n");
+  EXPECT_EQ(x.table.NombreArticle(), 2);
+  EXPECT_EQ(x.table.texte(1).size(), 100000u);
+  EXPECT_EQ(x.table.position(2), 100009);
+}
+
+TEST(IndexFile, LetterTable) {
+  Index x;
+  x.Construit(
+      "(note)\r\nd\r\n\r\nabc\r\nd\r\n\r\nabcd\r\nd\r\n\r\nabd\r\nd\r\n\r\nb\r\nd\r\n\r\nb1x\r\nd\r\n\r\nzz, v\r\nd\r\n");
+  const TableLettre& t = x.lettres;
+  EXPECT_EQ(t('A', 'B', 'C'), 2);  // "(note)" never enters the table
+  EXPECT_EQ(t('A', 'B', 'D'), 4);  // abcd shares abc's three letters: not entered
+  EXPECT_EQ(t('A', 'C', 'D'), 2);  // later slots inherit the previous prefix's slot
+  EXPECT_EQ(t('A', 'B', 'E'), 1);
+  EXPECT_EQ(t('B', '@', '@'), 5);
+  EXPECT_EQ(t('B', 'A', 'A'), 6);  // a second letter outside A..Z counts as A
+  EXPECT_EQ(t('Z', 'Z', '@'), 7);  // the note after the comma is cut off
+  EXPECT_EQ(t('C', 'A', 'A'), 1);  // untouched slots keep 1
+  const auto lignes = LireLignes(x.f.lettre);
+  ASSERT_EQ(lignes.size(), 18954u);
+  EXPECT_EQ(lignes[0], " 1");
+  EXPECT_EQ(lignes[2 * 27 + 3], " 2");  // A, B, C
+  EXPECT_EQ(x.d.Lire("lettre.dic.txt").substr(0, 8), " 1\r\n 1\r\n");
+  // An unordered dictionary gets no fresh letter file.
+  std::filesystem::remove(CheminNatif(x.f.lettre));
+  x.Construit("a\r\nb\r\n", false);
+  EXPECT_FALSE(FichierExistant(x.f.lettre));
+}
+
+TEST(IndexFile, ProgressBeepsAreShared) {
+  Index x;
+  std::string dic;
+  for (int i = 0; i < 30000; ++i) dic += "m" + std::to_string(i) + "\r\nd\r\n\r\n";
+  x.Construit(dic);
+  // One beep at 25,000 index lines; the letter loop goes on from 5,000 and beeps at 20,000.
+  EXPECT_EQ(x.bips, 2);
+}
+
+TEST(IndexFile, ReadBackWhenCurrent) {
+  Index x;
+  x.Construit("chat (n.m.)\r\ncat\r\n\r\nchien\r\ndog\r\n");
+  IndexTable t;
+  TableLettre l;
+  ASSERT_EQ(LireIndex(x.f, LongueurFichier(x.f.dictio), t, l), EtatIndex::Charge);
+  ASSERT_EQ(t.NombreArticle(), 2);
+  EXPECT_EQ(t.texte(1), "chat (n.m.)");
+  EXPECT_EQ(t.cle(1), "CHAT(NM)");
+  EXPECT_EQ(t.position(2), 20);
+  EXPECT_EQ(t.position(3), LongueurFichier(x.f.dictio));
+  EXPECT_EQ(l.valeurs(), x.lettres.valeurs());
+}
+
+TEST(IndexFile, StaleOrDamagedIndexIsNotLoaded) {
+  Index x;
+  x.Construit("chat\r\ncat\r\n\r\nchien\r\ndog\r\n\r\nzebre\r\nzebra\r\n");
+  const std::string bon = x.d.Lire("index.dic.txt");
+  const auto longueur = LongueurFichier(x.f.dictio);
+  IndexTable t;
+  TableLettre l;
+  auto etat = [&](const std::string& index) {
+    x.d.Ecrire("index.dic.txt", index);
+    return LireIndex(x.f, longueur, t, l);
+  };
+  EXPECT_EQ(LireIndex(x.f, longueur + 1, t, l), EtatIndex::Perime);  // the dictionary changed
+  EXPECT_EQ(etat(bon.substr(0, bon.size() - 10)), EtatIndex::Perime);  // truncated
+  std::string plus = bon;
+  plus.replace(140, 4, Valeur(9));
+  EXPECT_EQ(etat(plus), EtatIndex::Perime);  // count larger than the records
+  std::string desordre = bon;
+  desordre.replace(3 * 144 + 140, 4, Valeur(0));
+  EXPECT_EQ(etat(desordre), EtatIndex::Perime);  // offsets out of order
+  std::string hors = bon;
+  hors.replace(4 * 144 + 140, 4, Valeur(1000));
+  EXPECT_EQ(etat(hors), EtatIndex::Perime);  // offset beyond the file
+  std::string version = bon;
+  version.replace(0, 4, "1.10");
+  EXPECT_EQ(etat(version), EtatIndex::Version);
+  EXPECT_EQ(etat(""), EtatIndex::Version);
+  EXPECT_EQ(t.NombreArticle(), 0);
+  // A letter file that is short is not trusted; one with garbage reads leniently.
+  etat(bon);
+  x.d.Ecrire("lettre.dic.txt", " 1\r\n 2\r\n");
+  EXPECT_EQ(LireIndex(x.f, longueur, t, l), EtatIndex::Perime);
+  std::string garbage;
+  for (int i = 0; i < 18954; ++i) garbage += "\xFF\x01zz\r\n";
+  x.d.Ecrire("lettre.dic.txt", garbage);
+  EXPECT_EQ(LireIndex(x.f, longueur, t, l), EtatIndex::Charge);
+  EXPECT_EQ(l('A', '@', '@'), 0);
+}
