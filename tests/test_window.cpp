@@ -1,0 +1,91 @@
+#include <gtest/gtest.h>
+
+#include "catalogue/lists.h"
+#include "data/files.h"
+#include "fake_ui.h"
+#include "test_support.h"
+#include "ui/error_trap.h"
+#include "ui/events.h"
+#include "ui/form.h"
+#include "ui/index_view.h"
+#include "ui/keys.h"
+#include "ui/menus.h"
+#include "ui/message.h"
+
+using namespace lex;
+
+TEST(Window, RepeatedMessagesAlwaysChangeTheLabel) {
+  test::FakeUi ui;
+  Form f(ui);
+  for (int i = 0; i < 4; ++i) message(f, "introuvable");
+  EXPECT_EQ(ui.messages, (std::vector<std::string>{" introuvable", " introuvable  ", " introuvable", " introuvable  "}));
+  message(f, "   ");
+  message(f, "");
+  EXPECT_EQ(ui.messages[4], " ");
+  EXPECT_EQ(ui.messages[5], " ");
+  std::string t = "mot  ";
+  message(f, t);
+  EXPECT_EQ(t, " mot");
+}
+
+TEST(Window, MenuTableAsData) {
+  EXPECT_EQ(MenuParRaccourci('B', kCtrl)->id, MenuId::mnuBlocNote);
+  EXPECT_EQ(MenuParRaccourci(Touche::F(3), 0)->id, MenuId::mnuRechercheSuivantTout);
+  EXPECT_EQ(MenuParRaccourci(Touche::F(3), kCtrl)->id, MenuId::mnuRechercheSuivant);
+  EXPECT_EQ(MenuParRaccourci(Touche::F(3), kShift)->id, MenuId::mnuRecherchePrecedent);
+  EXPECT_EQ(MenuParRaccourci('B', 0), nullptr);
+  EXPECT_EQ(MenuParNom("MnuSelection")->legende, "s\xE9lection d'un index Ctrl Fl\xEA" "che bas ou ");
+  int entrees = 0;
+  for (const Menu& m : TableMenus()) entrees += static_cast<int>(m.entrees.size());
+  EXPECT_EQ(entrees, 38);
+  EXPECT_EQ(TableMenus()[4].legende, "Recherche");
+  EXPECT_EQ(MenuParNom("mnuRechercheSuivant")->raccourci.Nom(), "Ctrl+F3");
+}
+
+TEST(Window, PathHelpers) {
+  EXPECT_EQ(ajoutbackslash("a"), std::string("a") + kSeparateur);
+  EXPECT_EQ(ajoutbackslash("a/"), "a/");
+  EXPECT_EQ(ajoutbackslash("a\\"), "a\\");
+  EXPECT_EQ(Sansbackslash("a/"), "a");
+  EXPECT_EQ(NomFichSeul("c:\\x\\y.txt"), "y.txt");
+  EXPECT_EQ(NomFichSeul("/x/s\xE9lectionlex.eng"), "s\xE9lectionlex.eng");
+}
+
+TEST(Window, ErrorTrapReportsTheInnermostLabelAndEndsTheProgram) {
+  test::FakeUi ui;
+  Form f(ui);
+  bool termine = false;
+  RunTrapped(ui, termine, [&] {
+    ErrorTrap externe(" sur Dictionnaire");
+    ErrorTrap interne(" sur LitDictio");
+    Erreur(9);
+  });
+  ASSERT_EQ(ui.boxes.size(), 1u);
+  EXPECT_EQ(ui.boxes[0], "9L'indice n'appartient pas \xE0 la s\xE9lection sur LitDictio");
+  EXPECT_TRUE(ui.quit && termine);
+  // Once ended, nothing more runs.
+  bool appele = false;
+  EXPECT_FALSE(RunTrapped(ui, termine, [&] { appele = true; }));
+  EXPECT_FALSE(appele);
+  // A failed index build adds its diagnostic line.
+  test::FakeUi ui2;
+  Form g(ui2);
+  bool fin = false;
+  RunTrapped(ui2, fin, [&] {
+    IndexTable t;
+    TableLettre l;
+    ConstruireIndex({"/nulle/part/dic.txt", "/nulle/part/i", "/nulle/part/l"}, true, t, l, [] {});
+  });
+  ASSERT_EQ(ui2.boxes.size(), 2u);
+  EXPECT_EQ(ui2.boxes[0], "53Fichier introuvable sur InitIndex");
+  EXPECT_EQ(ui2.boxes[1].rfind("l=", 0), 0u);
+}
+
+TEST(Window, ReadingAnArticleOutsideTheIndexIsAnError) {
+  test::FakeUi ui;
+  Form f(ui);
+  bool termine = false;
+  RunTrapped(ui, termine, [&] { LitDictio(f, 1); });
+  ASSERT_EQ(ui.boxes.size(), 1u);
+  EXPECT_EQ(ui.boxes[0], "9L'indice n'appartient pas \xE0 la s\xE9lection sur LitDictio");
+}
