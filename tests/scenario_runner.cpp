@@ -102,38 +102,41 @@ int main(int argc, char** argv) {
   const int status = pclose(p);
   const int code = WIFEXITED(status) ? WEXITSTATUS(status) : -1;
 
+  // Expectations match in order: each one after the end of the previous match, possibly
+  // further along the same event line.
   int echecs = 0;
-  std::size_t pos = 0;
+  std::size_t pos = 0, col = 0;
   std::vector<const Attente*> absents;
+  auto verifieAbsents = [&](std::size_t jusqua) {
+    for (const Attente* x : absents)
+      for (std::size_t k = pos; k < jusqua; ++k)
+        if (sortie[k].find(x->fragment, k == pos ? col : 0) != std::string::npos) {
+          std::cerr << scenario.filename().string() << ":" << x->ligne << ": unexpected event: " << sortie[k] << "\n";
+          ++echecs;
+        }
+    absents.clear();
+  };
   for (const Attente& a : attentes) {
     if (a.absent) {
       absents.push_back(&a);
       continue;
     }
-    std::size_t i = pos;
-    while (i < sortie.size() && sortie[i].find(a.fragment) == std::string::npos) ++i;
-    const std::size_t fin = i < sortie.size() ? i : sortie.size();
-    for (const Attente* x : absents)
-      for (std::size_t k = pos; k < fin; ++k)
-        if (sortie[k].find(x->fragment) != std::string::npos) {
-          std::cerr << scenario.filename().string() << ":" << x->ligne << ": unexpected event: " << sortie[k] << "\n";
-          ++echecs;
-        }
-    absents.clear();
+    std::size_t i = pos, trouve = std::string::npos;
+    for (; i < sortie.size(); ++i) {
+      trouve = sortie[i].find(a.fragment, i == pos ? col : 0);
+      if (trouve != std::string::npos) break;
+    }
+    verifieAbsents(i);
     if (i == sortie.size()) {
       std::cerr << scenario.filename().string() << ":" << a.ligne << ": no event after line " << pos + 1
                 << " contains: " << a.fragment << "\n";
       ++echecs;
       continue;
     }
-    pos = i + 1;
+    pos = i;
+    col = trouve + a.fragment.size();
   }
-  for (const Attente* x : absents)
-    for (std::size_t k = pos; k < sortie.size(); ++k)
-      if (sortie[k].find(x->fragment) != std::string::npos) {
-        std::cerr << scenario.filename().string() << ":" << x->ligne << ": unexpected event: " << sortie[k] << "\n";
-        ++echecs;
-      }
+  verifieAbsents(sortie.size());
   for (const auto& [nom, attendu] : fichiers) {
     const std::string chemin = lex::Utf8VersAnsi((dir / fs::path(std::u8string(nom.begin(), nom.end()))).string());
     bool trouve = false;
