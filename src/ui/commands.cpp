@@ -7,6 +7,7 @@
 #include "ui/form.h"
 #include "ui/message.h"
 #include "ui/navigation.h"
+#include "ui/options.h"
 
 namespace lex {
 namespace {
@@ -35,6 +36,9 @@ void InscrireCommandesFenetre(TableCommandes& t) {
   t[MenuId::mnuEnregistrer] = mnuEnregistrer_Click;
   t[MenuId::mnuRetourIndexItem] = RetourIndex;
   t[MenuId::mnuParlerIndexItem] = parlerIndex;
+  t[MenuId::mnuPoliceEcran] = mnuPoliceEcran_Click;
+  t[MenuId::mnuAideTxt] = mnuAideTxt_Click;
+  t[MenuId::mnuApropos] = mnuApropos_Click;
 }
 
 bool CommandeDisponible(MenuId id) { return Table().count(id) != 0; }

@@ -25,6 +25,8 @@ bool EditionArticle(const Form& f) { return f.fenetre.ModificationEnCours || f.f
 bool txt_KeyDown(Form& f, int code, int shift) {
   EtatFenetre& w = f.fenetre;
   const bool ctrl = (shift & kCtrl) != 0;
+  // The guide and the about text are read with the field's own keys.
+  if (w.TexteAideAffiche) return code == Touche::Suppr;
   switch (code) {
     case Touche::Espace:
       if (ctrl) {
@@ -76,6 +78,7 @@ bool txt_KeyPress(Form& f, char c) {
     w.ToucheInterrompue = true;
     return false;
   }
+  if (w.TexteAideAffiche) return true;
   if (c == 8) {
     if (w.ModeCourant == 2) BakSpaceIndex(f);
     else if (w.ModeCourant == 3 && !EditionArticle(f)) RetourSuiteIndex(f);

@@ -1,0 +1,14 @@
+// The screen font, the guide and the about text. The guide and the about text take the place
+// of the index field's text, where they are read line by line; OK or Escape brings the list of
+// dictionaries back.
+#pragma once
+
+namespace lex {
+
+struct Form;
+
+void mnuPoliceEcran_Click(Form& f);
+void mnuAideTxt_Click(Form& f);
+void mnuApropos_Click(Form& f);
+
+}  // namespace lex
