@@ -141,7 +141,7 @@ void ConstruireIndex(const FichiersIndex& f, bool ordreAlpha, IndexTable& table,
 
   table.Vider();
   std::int64_t taille = LongueurFichier(f.dictio);
-  if (taille > 0) table.Reserver(static_cast<std::size_t>(taille / 200 + 16), 0);
+  if (taille > 0) table.Reserver(static_cast<std::size_t>(taille / 200 + 16));
 
   std::vector<char> tampon(1 << 22);
   std::size_t debut = 0, fin = 0;  // unread bytes are tampon[debut, fin)
@@ -252,7 +252,7 @@ EtatIndex LireIndex(const FichiersIndex& f, std::int64_t tailleDictio, IndexTabl
   if (longueurIndex < (static_cast<std::int64_t>(nombre) + 2) * static_cast<std::int64_t>(kTailleEnreg))
     return EtatIndex::Perime;
 
-  table.Reserver(static_cast<std::size_t>(nombre), 0);
+  table.Reserver(static_cast<std::size_t>(nombre));
   constexpr std::size_t kParLecture = 8192;
   std::vector<char> tampon(kParLecture * kTailleEnreg);
   std::int64_t precedente = -1;

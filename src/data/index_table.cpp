@@ -9,7 +9,7 @@ namespace lex {
 
 void IndexTable::Vider() { *this = IndexTable(); }
 
-void IndexTable::Reserver(std::size_t entrees, std::size_t) {
+void IndexTable::Reserver(std::size_t entrees) {
   refs_.reserve(entrees);
   positions_.reserve(entrees + 1);
 }

@@ -18,7 +18,7 @@ class IndexTable {
   IndexTable& operator=(IndexTable&&) = default;
 
   void Vider();
-  void Reserver(std::size_t entrees, std::size_t octets);
+  void Reserver(std::size_t entrees);
   // Appends entry NombreArticle() + 1.
   void Ajouter(std::string_view texte, std::string_view cle, std::int32_t position);
   // Closes the table with the sentinel whose position is the file length.

@@ -29,8 +29,6 @@ std::string extraitLigne(const std::string& texte, std::size_t& position) {
   position = std::min(position, texte.size());
   std::size_t debut = position == 0 ? std::string::npos : texte.rfind('\n', position - 1);
   debut = debut == std::string::npos ? 0 : debut + 1;
-  // A caret sitting between CR and LF belongs to the line the CR ends.
-  if (debut > position) debut = position;
   std::size_t fin = texte.find('\r', debut);
   if (fin == std::string::npos) fin = texte.size();
   position = debut;
