@@ -1,0 +1,129 @@
+// The Recherche menu's commands as the user reaches them, on a small dictionary.
+#include <gtest/gtest.h>
+
+#include "data/index_file.h"
+#include "fake_ui.h"
+#include "test_support.h"
+#include "ui/events.h"
+#include "ui/form.h"
+#include "ui/index_view.h"
+#include "ui/line_helpers.h"
+#include "ui/paging.h"
+
+using namespace lex;
+using M = MenuId;
+
+namespace {
+
+struct Banc {
+  test::DossierTemp d;
+  test::FakeUi ui;
+  Form f{ui};
+  explicit Banc(const std::string& octets = test::Fixture("search_mots.txt")) {
+    d.Ecrire("d.txt", octets);
+    f.dico.fichiers = {d.Chemin("d.txt"), d.Chemin("index.d"), d.Chemin("lettre.d")};
+    ConstruireIndex(f.dico.fichiers, true, f.dico.TableIndex, f.dico.Lettres, [] {});
+    f.fenetre.ModeCourant = 2;
+    InitTableIndex(f);
+  }
+  void Menu(M id, const std::string& reponse = {}) {
+    if (!reponse.empty()) ui.saisies.push_back(reponse);
+    EvMenu(f, id);
+    EXPECT_TRUE(ui.boxes.empty()) << ui.boxes.back();
+  }
+  void Ligne(int n) { ui.txtSel = {DebutLigne(ui.txt, n), 0}; }
+  std::string Dit() const {
+    const std::string& m = ui.DernierMessage();
+    const auto d = m.find_first_not_of(' ');
+    return d == std::string::npos ? "" : m.substr(d, m.find_last_not_of(' ') - d + 1);
+  }
+};
+
+}  // namespace
+
+TEST(SearchCommands, CancelledAnswersChangeNothing) {
+  Banc b;
+  b.f.recherche.RechercheDansIndex = true;
+  b.f.recherche.ChaineRecherche = "loup";
+  b.Ligne(4);
+  for (M id : {M::mnuRechercheindex, M::mnuRechercheDansIndex, M::mnuRechercheAvant, M::mnuRechercheChaine}) b.Menu(id);
+  EXPECT_EQ(b.ui.prompts, (std::vector<std::string>{"D\xE9" "but de l'index", "Chaine dans index", "Recherche",
+                                                    "Liste des index contenant la chaine"}));
+  EXPECT_TRUE(b.ui.messages.empty());
+  EXPECT_TRUE(b.f.recherche.RechercheDansIndex);
+  EXPECT_EQ(b.f.recherche.ChaineRecherche, "loup");
+  EXPECT_EQ(IndexAbsolu(b.f), 4);
+}
+
+TEST(SearchCommands, BeginningOfIndex) {
+  Banc b;
+  b.Menu(M::mnuRechercheindex, "chi");  // nearest: the longest common beginning
+  EXPECT_EQ(b.f.fenetre.PremierIndexAffiche, 4);
+  EXPECT_EQ(b.Dit(), "chien");
+  const std::size_t dits = b.ui.messages.size();
+  b.Menu(M::mnuRechercheindex, "Loup");  // exact: no announcement
+  EXPECT_EQ(b.f.fenetre.PremierIndexAffiche, 9);
+  EXPECT_EQ(b.ui.messages.size(), dits);
+  b.Menu(M::mnuRechercheindex, "-.!");
+  EXPECT_EQ(b.Dit(), "index invalide");
+  b.Menu(M::mnuRechercheindex, "1x");  // nothing in common: the first entry
+  EXPECT_EQ(b.Dit(), "abeille");
+}
+
+// The scenarios follow a list and the way back from it; here, a list searched again.
+TEST(SearchCommands, AResultListIsNarrowedBySearchingItAgain) {
+  Banc b;
+  b.Menu(M::mnuRechercheChaine, "chat");
+  EXPECT_EQ(b.ui.txt, "chat\r\nchien\r\nhibou\r\nlion");
+  b.Menu(M::mnuRechercheChaine, "noir");  // zèbre holds it too, but is not in the list
+  EXPECT_EQ(b.Dit(), "1 index trouv\xE9");
+  EXPECT_EQ(b.ui.txt, "chat");
+  EXPECT_EQ(b.ui.title, "index contenant noir");
+  b.Menu(M::mnuRechercheChaine, "loup");  // nothing: the list stays
+  EXPECT_EQ(b.Dit(), "introuvable");
+  EXPECT_EQ(b.ui.txt, "chat");
+  EvTouchePresse(b.f, Champ::Txt, 27);  // Escape: the dictionary's own index, on that entry
+  EXPECT_FALSE(b.f.recherche.ListeEnCours);
+  EXPECT_EQ(IndexAbsolu(b.f), 3);
+  EXPECT_EQ(NombreArticle(b.f), 11);
+}
+
+TEST(SearchCommands, AnArticleBeingEditedIsNeverLeft) {
+  Banc b;
+  b.Menu(M::mnuRechercheAvant, "chien");
+  b.f.fenetre.ModificationEnCours = true;
+  const std::size_t dits = b.ui.messages.size();
+  b.Menu(M::mnuRechercheSuivantTout);  // F3 does nothing at all
+  EXPECT_EQ(b.ui.messages.size(), dits);
+  b.Menu(M::mnuRechercheAvant, "loup");
+  EXPECT_EQ(b.Dit(), "introuvable");
+  b.Menu(M::mnuRecherchePrecedent);
+  EXPECT_EQ(b.f.fenetre.IndexCourant, 4);
+}
+
+TEST(SearchCommands, EmptyHugeAndChangedDictionaries) {
+  Banc vide("");
+  for (M id : {M::mnuRechercheChaine, M::mnuRechercheAvant, M::mnuRechercheDansIndex}) {
+    vide.Menu(id, "x");
+    EXPECT_EQ(vide.Dit(), "introuvable");
+  }
+  vide.Menu(M::mnuRechercheindex, "x");
+  vide.Menu(M::mnuRecherchePrecedent);
+  EXPECT_EQ(vide.Dit(), "introuvable");
+
+  const std::string grande(10000, 'q');
+  Banc b("a\r\nrien\r\n\r\nb\r\n" + grande + "\r\n");
+  b.Menu(M::mnuRechercheChaine, grande);
+  EXPECT_EQ(b.ui.txt, "b");
+  b.Menu(M::mnuRechercheChaine, grande + "q");
+  EXPECT_EQ(b.Dit(), "introuvable");
+
+  Banc change;
+  change.d.Ecrire("d.txt", "chat\r\n");  // shrunk after its index was made
+  change.Menu(M::mnuRechercheChaine, "chat");
+  EXPECT_EQ(change.Dit(), "1 index trouv\xE9");
+  change.Menu(M::mnuRechercheAvant, "grand");
+  EXPECT_EQ(change.Dit(), "introuvable");
+  EXPECT_FALSE(change.ui.quit);
+}
+
