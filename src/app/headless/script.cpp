@@ -56,8 +56,9 @@ bool ParseKey(std::string name, Key& k) {
   k.ch = c;
   if (c >= 'a' && c <= 'z') k.code = c - 32;
   else if (c >= 'A' && c <= 'Z') {
+    // "B" is Shift+B, but "Ctrl+B" names the accelerator as menus write it.
     k.code = c;
-    k.shift |= kShift;
+    if (!(k.shift & (kCtrl | kAlt))) k.shift |= kShift;
   } else if (c >= '0' && c <= '9') k.code = c;
   return true;
 }
