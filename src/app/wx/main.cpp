@@ -1,0 +1,50 @@
+// lex: the program in its real window.
+#include <wx/filename.h>
+#include <wx/stdpaths.h>
+#include <wx/wx.h>
+
+#include <cstdio>
+#include <cstdlib>
+
+#include "app/wx/main_frame.h"
+
+namespace {
+
+bool demarre = false;  // the toolkit came up and the program was started
+
+class LexApp final : public wxApp {
+ public:
+  bool OnInit() override {
+    // The program takes no command-line options, so wxApp's own parsing is not called.
+    demarre = true;
+    // The program folder is the executable's: the guide, the dictionaries and the
+    // configuration live next to it.
+    const wxFileName exe(wxStandardPaths::Get().GetExecutablePath());
+    auto* form = new lex::wx::Form1();
+    // When the program ends while loading (an error was reported), the window is already
+    // going away, and with it the program, as soon as the event loop runs.
+    if (form->Charger(lex::wx::DepuisWx(exe.GetPath()))) form->Show();
+    return true;
+  }
+};
+
+}  // namespace
+
+#ifdef __WXGTK__
+wxIMPLEMENT_APP_NO_MAIN(LexApp);
+
+int main(int argc, char** argv) {
+  const char* x = std::getenv("DISPLAY");
+  const char* w = std::getenv("WAYLAND_DISPLAY");
+  if ((!x || !*x) && (!w || !*w)) {
+    std::fputs("lex: no graphical display (DISPLAY and WAYLAND_DISPLAY are not set); "
+               "LEX needs a desktop session.\n", stderr);
+    return 1;
+  }
+  const int code = wxEntry(argc, argv);
+  if (!demarre) std::fputs("lex: the graphical display could not be opened.\n", stderr);
+  return code;
+}
+#else
+wxIMPLEMENT_APP(LexApp);
+#endif

@@ -1,0 +1,186 @@
+#include "app/wx/main_frame.h"
+
+#include <algorithm>
+
+#ifdef __WXGTK__
+#include <gdk/gdk.h>
+#endif
+
+#include "ui/keys.h"
+#include "ui/menus.h"
+
+namespace lex::wx {
+
+int CodeTouche(int k) {
+  switch (k) {
+    case WXK_BACK: return Touche::Retour;
+    case WXK_TAB: case WXK_NUMPAD_TAB: return Touche::Tab;
+    case WXK_RETURN: case WXK_NUMPAD_ENTER: return Touche::Entree;
+    case WXK_ESCAPE: return Touche::Echap;
+    case WXK_SPACE: case WXK_NUMPAD_SPACE: return Touche::Espace;
+    case WXK_PAGEUP: case WXK_NUMPAD_PAGEUP: return Touche::PagePrec;
+    case WXK_PAGEDOWN: case WXK_NUMPAD_PAGEDOWN: return Touche::PageSuiv;
+    case WXK_END: case WXK_NUMPAD_END: return Touche::Fin;
+    case WXK_HOME: case WXK_NUMPAD_HOME: return Touche::Debut;
+    case WXK_LEFT: case WXK_NUMPAD_LEFT: return Touche::Gauche;
+    case WXK_UP: case WXK_NUMPAD_UP: return Touche::Haut;
+    case WXK_RIGHT: case WXK_NUMPAD_RIGHT: return Touche::Droite;
+    case WXK_DOWN: case WXK_NUMPAD_DOWN: return Touche::Bas;
+    case WXK_INSERT: case WXK_NUMPAD_INSERT: return 45;
+    case WXK_DELETE: case WXK_NUMPAD_DELETE: return Touche::Suppr;
+    case WXK_SHIFT: return 16;
+    case WXK_CONTROL: return 17;
+    case WXK_ALT: return 18;
+    default: break;
+  }
+  if (k >= WXK_F1 && k <= WXK_F24) return Touche::F1 + (k - WXK_F1);
+  if (k >= WXK_NUMPAD0 && k <= WXK_NUMPAD9) return 96 + (k - WXK_NUMPAD0);
+  if ((k >= 'A' && k <= 'Z') || (k >= '0' && k <= '9')) return k;
+  if (k >= 'a' && k <= 'z') return k - 'a' + 'A';
+  return 0;
+}
+
+int Modificateurs(const wxKeyEvent& e) {
+  return (e.ShiftDown() ? kShift : 0) | (e.ControlDown() ? kCtrl : 0) | (e.AltDown() ? kAlt : 0);
+}
+
+Form1::Form1()
+    : wxFrame(nullptr, wxID_ANY, "Dictionnaires", wxDefaultPosition, wxSize(800, 600), wxDEFAULT_FRAME_STYLE,
+              "Form1") {
+  // A panel carries keyboard navigation between the controls on every platform. The file
+  // and font dialogs are made when they are asked for.
+  auto* panneau = new wxPanel(this, wxID_ANY);
+  // Lines are not wrapped, so that the line a screen reader speaks is the program's line.
+  const long texte = wxTE_MULTILINE | wxTE_PROCESS_ENTER | wxTE_NOHIDESEL | wxTE_DONTWRAP;
+  auto* Rtb = new wxTextCtrl(panneau, wxID_ANY, "", wxDefaultPosition, wxDefaultSize, texte | wxTE_RICH2,
+                             wxDefaultValidator, "Rtb");
+  Rtb->Hide();
+  auto* txt = new wxTextCtrl(panneau, wxID_ANY, "", wxDefaultPosition, wxDefaultSize, texte, wxDefaultValidator, "txt");
+  auto* CmdDic = new wxButton(panneau, wxID_ANY, "Index", wxDefaultPosition, wxDefaultSize, 0, wxDefaultValidator,
+                              "CmdDic");
+  auto* CmdDivers = new wxButton(panneau, wxID_ANY, "", wxDefaultPosition, wxDefaultSize, 0, wxDefaultValidator,
+                                 "CmdDivers");
+  auto* CmdQuitter = new wxButton(panneau, wxID_ANY, "&Quitter", wxDefaultPosition, wxDefaultSize, 0,
+                                  wxDefaultValidator, "CmdQuitter");
+  // Made after the buttons: a label takes the next control made as the one it names.
+  auto* LblMessage = new wxStaticText(panneau, wxID_ANY, "", wxDefaultPosition, wxDefaultSize, wxST_NO_AUTORESIZE,
+                                      "LblMessage");
+  LblMessage->SetForegroundColour(wxColour(0xFF, 0x55, 0x55));
+  LblMessage->SetMinSize(wxSize(-1, LblMessage->GetCharHeight() * 3 / 2));
+
+  auto* boutons = new wxBoxSizer(wxHORIZONTAL);
+  for (wxButton* b : {CmdDic, CmdDivers, CmdQuitter}) boutons->Add(b, 0, wxRIGHT, 6);
+  auto* vertical = new wxBoxSizer(wxVERTICAL);
+  vertical->Add(Rtb, 1, wxEXPAND | wxALL, 6);
+  vertical->Add(txt, 1, wxEXPAND | wxALL, 6);
+  vertical->Add(boutons, 0, wxLEFT | wxRIGHT, 6);
+  vertical->Add(LblMessage, 0, wxEXPAND | wxALL, 6);
+  panneau->SetSizer(vertical);
+
+  Controles c;
+  c.form = this;
+  c.panneau = panneau;
+  c.txt = txt;
+  c.rtb = Rtb;
+  c.boutons = {CmdDic, CmdDivers, CmdQuitter};
+  c.message = LblMessage;
+  c.menus = CreeMenus();
+  SetMenuBar(c.menus);
+  ui_ = std::make_unique<WxWindow>(c);
+  form_ = std::make_unique<Form>(*ui_);
+
+  for (auto [ctrl, champ] : {std::pair{txt, Champ::Txt}, std::pair{Rtb, Champ::Rtb}}) {
+    const Champ ch = champ;
+    ctrl->Bind(wxEVT_KEY_DOWN, [this, ch](wxKeyEvent& e) { ToucheBas(e, ch); });
+    ctrl->Bind(wxEVT_CHAR, [this, ch](wxKeyEvent& e) { TouchePresse(e, ch); });
+    wxTextCtrl* t = ctrl;
+    ctrl->Bind(wxEVT_TEXT, [this, t](wxCommandEvent& e) {
+      ui_->ChampDe(t).Modifie();
+      e.Skip();
+    });
+  }
+  CmdDic->Bind(wxEVT_BUTTON, [this](wxCommandEvent&) { EvBouton(*form_, Bouton::CmdDic); });
+  CmdDivers->Bind(wxEVT_BUTTON, [this](wxCommandEvent&) { EvBouton(*form_, Bouton::CmdDivers); });
+  CmdQuitter->Bind(wxEVT_BUTTON, [this](wxCommandEvent&) { EvBouton(*form_, Bouton::CmdQuitter); });
+  Bind(wxEVT_CLOSE_WINDOW, &Form1::Fermeture, this);
+}
+
+wxMenuBar* Form1::CreeMenus() {
+  auto* barre = new wxMenuBar;
+  int dernier = kPremierIdMenu;
+  for (const lex::Menu& m : TableMenus()) {
+    auto* menu = new wxMenu;
+    for (const MenuItem& e : m.entrees) {
+      wxString legende = VersWx(e.legende);
+      if (e.raccourci.code != 0) legende += "\t" + wxString::FromUTF8(e.raccourci.Nom());
+      menu->Append(IdMenu(e.id), legende);
+      dernier = std::max(dernier, IdMenu(e.id));
+    }
+    barre->Append(menu, VersWx(m.legende));
+  }
+  Bind(wxEVT_MENU, &Form1::Menu, this, kPremierIdMenu, dernier);
+  return barre;
+}
+
+bool Form1::Charger(const std::string& dossierProgramme) {
+  EvChargement(*form_, dossierProgramme);
+  return !ui_->QuitDemande();
+}
+
+namespace {
+
+// The character a key produces, or 0. Ctrl and Alt combinations are commands, not characters
+// (Ctrl+Alt together is AltGr on Windows).
+char32_t Caractere(const wxKeyEvent& e, char32_t c) {
+  const bool ctrl = e.ControlDown(), alt = e.AltDown();
+  if (c == 0 || c == 127 || ((ctrl || alt) && !(ctrl && alt && c >= 32))) return 0;
+  return c;
+}
+
+}  // namespace
+
+void Form1::ToucheBas(wxKeyEvent& e, Champ champ) {
+  const int code = CodeTouche(e.GetKeyCode());
+  const int shift = Modificateurs(e);
+  // A menu's shortcut wins over the field, as in any window: Ctrl+A is a command, not the
+  // field's select-all.
+  if (const MenuItem* m = MenuParRaccourci(code, shift); m && ui_->MenuActif(m->id)) {
+    EvMenu(*form_, m->id);
+    return;
+  }
+  if (EvToucheBas(*form_, champ, code, shift)) return;
+#ifdef __WXGTK__
+  // GTK gives a read-only text view's printable keys to its input method, and wx then sends
+  // no character event for them: the character is taken from the key itself, here, for
+  // every key alike.
+  if (const char32_t c = Caractere(e, gdk_keyval_to_unicode(e.GetRawKeyCode())); c != 0 && Presse(champ, c)) return;
+#endif
+  e.Skip();
+}
+
+void Form1::TouchePresse(wxKeyEvent& e, Champ champ) {
+#ifndef __WXGTK__
+  char32_t c = e.GetUnicodeKey() == WXK_NONE ? 0 : static_cast<char32_t>(e.GetUnicodeKey());
+  if (e.GetKeyCode() == WXK_NUMPAD_ENTER) c = '\r';
+  if (c = Caractere(e, c); c != 0 && Presse(champ, c)) return;
+#else
+  (void)champ;
+#endif
+  e.Skip();
+}
+
+bool Form1::Presse(Champ champ, char32_t c) {
+  const std::string ansi = DepuisWx(wxString(wxUniChar(static_cast<wxUint32>(c))));
+  // A character that Windows-1252 cannot hold is left to the field.
+  if (ansi.size() != 1 || (ansi[0] == '?' && c != '?')) return false;
+  return EvTouchePresse(*form_, champ, ansi[0]);
+}
+
+void Form1::Menu(wxCommandEvent& e) { EvMenu(*form_, static_cast<MenuId>(e.GetId() - kPremierIdMenu)); }
+
+void Form1::Fermeture(wxCloseEvent&) {
+  EvFermeture(*form_);
+  ui_->Quit();  // already done unless the program had ended before
+}
+
+}  // namespace lex::wx

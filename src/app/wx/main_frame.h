@@ -1,0 +1,37 @@
+// The program's one window, Form1: its controls, its menu bar built from the menu table, and
+// the forwarding of every key, menu, button and close event to the program.
+#pragma once
+#include <wx/wx.h>
+
+#include <memory>
+#include <string>
+
+#include "app/wx/wx_window.h"
+#include "ui/events.h"
+#include "ui/form.h"
+
+namespace lex::wx {
+
+class Form1 final : public wxFrame {
+ public:
+  Form1();
+  // The load event; false when the program ended during it (the window is then going away).
+  bool Charger(const std::string& dossierProgramme);
+
+ private:
+  wxMenuBar* CreeMenus();
+  void ToucheBas(wxKeyEvent& e, lex::Champ champ);
+  void TouchePresse(wxKeyEvent& e, lex::Champ champ);
+  bool Presse(lex::Champ champ, char32_t c);
+  void Menu(wxCommandEvent& e);
+  void Fermeture(wxCloseEvent& e);
+
+  std::unique_ptr<WxWindow> ui_;
+  std::unique_ptr<Form> form_;  // after ui_: the form refers to it
+};
+
+// The classic virtual key code of a wx key code (0 when it has none), and the modifier bits.
+int CodeTouche(int wxKey);
+int Modificateurs(const wxKeyEvent& e);
+
+}  // namespace lex::wx

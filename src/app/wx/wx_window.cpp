@@ -1,0 +1,195 @@
+#include "app/wx/wx_window.h"
+
+#include <wx/clipbrd.h>
+#include <wx/filedlg.h>
+#include <wx/fontdata.h>
+#include <wx/fontdlg.h>
+#include <wx/fontenum.h>
+#include <wx/textdlg.h>
+
+#ifdef __WXGTK__
+#include <gtk/gtk.h>
+#endif
+
+#include <algorithm>
+
+#include "app/wx/text_mapping.h"
+#include "data/encoding.h"
+
+namespace lex::wx {
+
+wxString VersWx(const std::string& ansi) { return wxString::FromUTF8(AnsiVersUtf8(ansi)); }
+
+std::string DepuisWx(const wxString& s) { return Utf8VersAnsi(std::string(s.utf8_str())); }
+
+namespace {
+
+wxFont PoliceWx(const Police& p) {
+  wxFontInfo info(p.taille > 0 ? p.taille : 10);
+  // Any fixed-pitch face keeps the columns of the lists when the named one is missing.
+  info.Family(wxFONTFAMILY_TELETYPE);
+  const wxString nom = VersWx(p.nom);
+  if (!nom.empty() && wxFontEnumerator::IsValidFacename(nom)) info.FaceName(nom);
+  return wxFont(info);
+}
+
+#ifdef __WXGTK__
+AtkObject* Accessible(wxWindow* w) { return gtk_widget_get_accessible(GTK_WIDGET(w->GetHandle())); }
+#endif
+
+}  // namespace
+
+void ChampTexte::SetTexte(const std::string& ansi) {
+  texte_ = ansi;
+  connu_ = true;
+  ctrl_->ChangeValue(wxString::FromUTF8(VersControle(ansi)));
+}
+
+const std::string& ChampTexte::Texte() const {
+  if (!connu_) {
+    texte_ = DepuisControle(std::string(ctrl_->GetValue().utf8_str()));
+    connu_ = true;
+  }
+  return texte_;
+}
+
+void ChampTexte::SetSelection(std::size_t debut, std::size_t longueur) {
+  const std::string& t = Texte();
+  const long fin = ctrl_->GetLastPosition();
+  const long d = std::min<long>(static_cast<long>(PositionControle(t, debut)), fin);
+  if (longueur == 0) {
+    ctrl_->SetInsertionPoint(d);
+  } else {
+    ctrl_->SetSelection(d, std::min<long>(static_cast<long>(PositionControle(t, debut + longueur)), fin));
+  }
+}
+
+Selection ChampTexte::GetSelection() const {
+  long de = 0, a = 0;
+  ctrl_->GetSelection(&de, &a);
+  if (de == a) de = a = ctrl_->GetInsertionPoint();
+  const std::string& t = Texte();
+  const std::size_t debut = PositionProgramme(t, static_cast<std::size_t>(de));
+  return {debut, PositionProgramme(t, static_cast<std::size_t>(a)) - debut};
+}
+
+void ChampTexte::SetPolice(const Police& p) { ctrl_->SetFont(PoliceWx(p)); }
+
+WxWindow::WxWindow(const Controles& c) : c_(c), txt_(c.txt), rtb_(c.rtb) {
+  for (Bouton b : {Bouton::CmdDic, Bouton::CmdDivers, Bouton::CmdQuitter})
+    legendes_[Rang(b)] = DepuisWx(c_.boutons[Rang(b)]->GetLabel());
+#ifdef __WXGTK__
+  // Orca speaks a label's change only for a notification, and only when told it is shown.
+  atk_object_set_role(Accessible(c_.message), ATK_ROLE_NOTIFICATION);
+#endif
+}
+
+bool WxWindow::MenuActif(MenuId id) const { return c_.menus->IsEnabled(IdMenu(id)); }
+
+void WxWindow::SetPaneVisible(bool visible) {
+  if (visible == c_.rtb->IsShown()) return;
+  c_.rtb->Show(visible);
+  c_.txt->Show(!visible);
+  c_.panneau->Layout();
+}
+
+void WxWindow::SetMessage(const std::string& t) {
+  c_.message->SetLabelText(VersWx(t));
+#ifdef __WXGTK__
+  atk_object_notify_state_change(Accessible(c_.message), ATK_STATE_SHOWING, TRUE);
+#endif
+}
+
+void WxWindow::SetButtonCaption(Bouton b, const std::string& t) {
+  legendes_[Rang(b)] = t;
+  c_.boutons[Rang(b)]->SetLabel(VersWx(t));
+  c_.panneau->Layout();
+}
+
+void WxWindow::SetButtonVisible(Bouton b, bool visible) {
+  if (c_.boutons[Rang(b)]->IsShown() == visible) return;
+  c_.boutons[Rang(b)]->Show(visible);
+  c_.panneau->Layout();
+}
+
+Reponse WxWindow::MessageBox(const std::string& texte, Boutons boutons, Icone icone, const std::string& titre) {
+  long style = 0;
+  switch (boutons) {
+    case Boutons::OK: style = wxOK; break;
+    case Boutons::OKCancel: style = wxOK | wxCANCEL; break;
+    case Boutons::YesNo: style = wxYES_NO; break;
+    case Boutons::YesNoCancel: style = wxYES_NO | wxCANCEL; break;
+  }
+  switch (icone) {
+    case Icone::Aucune: style |= wxICON_NONE; break;
+    case Icone::Question: style |= wxICON_QUESTION; break;
+    case Icone::Exclamation: style |= wxICON_EXCLAMATION; break;
+    case Icone::Information: style |= wxICON_INFORMATION; break;
+    case Icone::Critique: style |= wxICON_ERROR; break;
+  }
+  wxMessageDialog dlg(c_.form, VersWx(texte), VersWx(titre), style);
+  switch (dlg.ShowModal()) {
+    case wxID_YES: return Reponse::Yes;
+    case wxID_NO: return Reponse::No;
+    case wxID_OK: return Reponse::OK;
+    default:
+      // Closing a box that has no Cancel button answers with its last button.
+      if (boutons == Boutons::OK) return Reponse::OK;
+      if (boutons == Boutons::YesNo) return Reponse::No;
+      return Reponse::Cancel;
+  }
+}
+
+std::string WxWindow::InputBox(const std::string& invite, const std::string& titre, const std::string& defaut) {
+  wxTextEntryDialog dlg(c_.form, VersWx(invite), VersWx(titre), VersWx(defaut));
+  return dlg.ShowModal() == wxID_OK ? DepuisWx(dlg.GetValue()) : std::string();
+}
+
+void WxWindow::ClipboardSetText(const std::string& t) {
+  wxClipboardLocker verrou;
+  if (!!verrou) wxTheClipboard->SetData(new wxTextDataObject(wxString::FromUTF8(VersControle(t))));
+}
+
+std::string WxWindow::ClipboardGetText() {
+  wxClipboardLocker verrou;
+  if (!verrou || !wxTheClipboard->IsSupported(wxDF_UNICODETEXT)) return {};
+  wxTextDataObject data;
+  if (!wxTheClipboard->GetData(data)) return {};
+  return DepuisControle(std::string(data.GetText().utf8_str()));
+}
+
+std::string WxWindow::FileDialog(long style, const std::string& titre, const std::string& filtre,
+                                 const std::string& dossier, const std::string& nomDefaut) {
+  const wxString motif = filtre.empty() ? wxString(wxFileSelectorDefaultWildcardStr) : VersWx(filtre);
+  wxFileDialog dlg(c_.form, VersWx(titre), VersWx(dossier), VersWx(nomDefaut), motif, style);
+  return dlg.ShowModal() == wxID_OK ? DepuisWx(dlg.GetPath()) : std::string();
+}
+
+std::string WxWindow::OpenFileDialog(const std::string& titre, const std::string& filtre, const std::string& dossier,
+                                     const std::string& nomDefaut) {
+  return FileDialog(wxFD_OPEN, titre, filtre, dossier, nomDefaut);
+}
+
+std::string WxWindow::SaveFileDialog(const std::string& titre, const std::string& filtre, const std::string& dossier,
+                                     const std::string& nomDefaut) {
+  return FileDialog(wxFD_SAVE, titre, filtre, dossier, nomDefaut);
+}
+
+std::optional<Police> WxWindow::FontDialog(const Police& actuelle) {
+  wxFontData donnees;
+  donnees.SetInitialFont(PoliceWx(actuelle));
+  wxFontDialog dlg(c_.form, donnees);
+  if (dlg.ShowModal() != wxID_OK) return std::nullopt;
+  const wxFont choisie = dlg.GetFontData().GetChosenFont();
+  if (!choisie.IsOk()) return std::nullopt;
+  return Police{DepuisWx(choisie.GetFaceName()), choisie.GetPointSize()};
+}
+
+void WxWindow::Quit() {
+  if (quit_) return;
+  quit_ = true;
+  // Deleted once the current event is over; the last window gone, the program ends.
+  c_.form->Destroy();
+}
+
+}  // namespace lex::wx

@@ -1,0 +1,126 @@
+"""The window heard through Orca itself: Orca with speech-dispatcher on a null audio output,
+its debug file read for what it says (every utterance is a line "SPEECH OUTPUT: '...'").
+Prints the phrases spoken."""
+import json
+import os
+import re
+import shutil
+import subprocess
+import sys
+import time
+
+from lexgui import DELAI, POLL, Echec, Fenetre, dossier_programme, principal, pump
+
+
+def speech_dispatcher(racine):
+    """speech-dispatcher with its own configuration, playing sound nowhere."""
+    conf = os.path.join(racine, "speechd")
+    shutil.copytree("/etc/speech-dispatcher", conf)
+    chemin = os.path.join(conf, "speechd.conf")
+    with open(chemin) as f:
+        texte = f.read()
+    with open(chemin, "w") as f:
+        f.write(texte + '\nAudioOutputMethod "libao"\n')
+    with open(os.path.join(os.environ["HOME"], ".libao"), "w") as f:
+        f.write("default_driver=null\n")
+    p = subprocess.Popen(["speech-dispatcher", "-s", "-t", "0", "-C", conf], stdout=subprocess.DEVNULL,
+                         stderr=subprocess.DEVNULL)
+    socket = os.path.join(os.environ["XDG_RUNTIME_DIR"], "speech-dispatcher", "speechd.sock")
+    fin = time.monotonic() + DELAI
+    while not os.path.exists(socket):
+        if p.poll() is not None or time.monotonic() > fin:
+            raise Echec("speech-dispatcher did not start")
+        time.sleep(POLL)
+    return p
+
+
+def orca(racine, journal):
+    """Orca, speaking but echoing no keys and showing no braille, logging line by line."""
+    prefs = os.path.join(racine, "orca-prefs")
+    os.makedirs(prefs)
+    reglages = {"enableKeyEcho": False, "enableEchoByCharacter": False, "enableEchoByWord": False,
+                "enableBraille": False, "enableBrailleMonitor": False, "enableSpeech": True, "firstStart": False,
+                "enableTutorialMessages": False}
+    with open(os.path.join(prefs, "user-settings.conf"), "w") as f:
+        json.dump({"general": reglages, "pronunciations": {}, "keybindings": {},
+                   "profiles": {"default": dict(reglages, profile=["Default", "default"], pronunciations={},
+                                                keybindings={})}}, f)
+    # Orca's debug file is block-buffered and loses its tail when Orca is stopped.
+    with open("/usr/bin/orca") as f:
+        source = f.read()
+    copie = os.path.join(racine, "orca")
+    with open(copie, "w") as f:
+        f.write(source.replace("open(args.debug_file, 'w')", "open(args.debug_file, 'w', buffering=1)"))
+    env = dict(os.environ)
+    env.pop("PYTHONPATH", None)  # the tests' folder would hide Orca's own modules
+    return subprocess.Popen(["/usr/bin/python3", copie, "-u", prefs, "--debug-file", journal], env=env,
+                            stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+
+
+def paroles(journal):
+    if not os.path.exists(journal):
+        return []
+    with open(journal, errors="replace") as f:
+        # Blanks are not heard: runs of them are compared as one.
+        return [" ".join(p.split()) for p in re.findall(r"SPEECH OUTPUT: '(.*?)'", f.read())]
+
+
+def entendre(journal, depuis, attendus):
+    """Waits until Orca has said, after its utterance number `depuis`, each of `attendus`
+    (fragments) in that order; returns the index after the last one."""
+    fin = time.monotonic() + DELAI
+    while True:
+        pump()
+        dites = paroles(journal)
+        i, trouves = depuis, 0
+        for a in attendus:
+            while i < len(dites) and a not in dites[i]:
+                i += 1
+            if i == len(dites):
+                break
+            trouves += 1
+            i += 1
+        if trouves == len(attendus):
+            return i
+        if time.monotonic() > fin:
+            raise Echec("Orca did not say %r in that order; it said %r" % (attendus[trouves:], dites[depuis:]))
+        time.sleep(POLL * 5)
+
+
+def test(lex, lex_headless, racine):
+    journal = os.path.join(racine, "orca.out")
+    sd = speech_dispatcher(racine)
+    o = orca(racine, journal)
+    try:
+        # Orca is listening once it has greeted the user.
+        entendre(journal, 0, ["Screen reader on"])
+        w = Fenetre(dossier_programme(lex, racine))
+        n = entendre(journal, 0, ["LEX", "ANGLAIS francais"])
+        etapes = [
+            # Orca reads a label when it gets to it: of the messages of one command, the last.
+            (["a", "Return"], ["notification abricot", "ANGLAIS francais"]),
+            (["Down"], ["banane"]),
+            (["Return"], ["notification fruit jaune"]),
+            (["c"], []),  # in an article a letter is no command: nothing to hear
+            (["Escape"], ["notification banane"]),
+            (["c"], ["notification cerise"]),
+        ]
+        for touches, attendus in etapes:
+            w.touche(*touches)
+            if attendus:
+                n = entendre(journal, n, attendus)
+        w.fermer()
+    finally:
+        print("Orca said:")
+        for p in paroles(journal):
+            print("   ", p)
+        for p in (o, sd):
+            p.terminate()
+            try:
+                p.wait(5)
+            except subprocess.TimeoutExpired:
+                p.kill()
+
+
+if __name__ == "__main__":
+    sys.exit(principal(test))

@@ -1,0 +1,125 @@
+"""The window with real key events: the list at start, a dictionary opened by its call letter,
+moving, an article, a long article in the rich text pane, going back, menu shortcuts taking
+precedence over the field, focus moves, a button, an input box, message boxes and the font
+dialog, and the close box saving the configuration."""
+import os
+import sys
+
+from lexgui import (ARTICLES, Fenetre, a_le_focus, attendre, dossier_programme, egal, headless, ligne_longue,
+                    lire_ansi, montre, principal, verifie)
+
+
+def boutons_visibles(w):
+    return [b.name for b in w.boutons if montre(b)]
+
+
+def messages_par_commande(evenements):
+    """The message texts between two "show" commands of a headless run."""
+    groupes, courant = [], []
+    for e in evenements:
+        if e["ev"] == "message":
+            courant.append(e["text"])
+        elif e["ev"] == "state":
+            groupes.append(courant)
+            courant = []
+    return groupes
+
+
+def test(lex, lex_headless, racine):
+    dossier = dossier_programme(lex, racine)
+    # What the two menu commands say, asked of the scripted window in the same state.
+    attendu = messages_par_commande(headless(lex_headless, dossier, [
+        "key a", "key Enter", "key Down", "key Enter", "key Escape", "key z", "show",
+        "menu MnuSelectionTout", "show", "menu mnuBlocNote", "show"]))
+    w = Fenetre(dossier)
+
+    # The list of dictionaries, the caret on the first one.
+    egal(w.titre(), "LEX", "title at start")
+    verifie("LISTE DES DICTIONNAIRES" in w.texte(w.txt), "the list is shown: %r" % w.texte(w.txt)[:80])
+    ligne = w.ligne_curseur()
+    verifie(ligne.startswith("ANGLAIS francais") and ligne.endswith(" A"), "caret on the first dictionary: %r" % ligne)
+    egal(w.message(), " " + ligne, "message line at start")
+    verifie(montre(w.txt) and not montre(w.rtb), "txt shown, Rtb hidden at start")
+    egal(boutons_visibles(w), ["Index", "Quitter"], "buttons at start")
+    verifie(os.path.exists(os.path.join(dossier, "lex301.INI")), "the configuration is created at start")
+
+    # The call letter and Enter open the dictionary on its first entry.
+    w.touche("a", "Return")
+    w.attendre_titre("ANGLAIS francais")
+    w.attendre_ligne("abricot")
+    egal(boutons_visibles(w), ["D\u00e9finition", "Liste", "Quitter"], "buttons in the index")
+    w.touche("Down")
+    w.attendre_ligne("banane")
+
+    # Enter shows the article, caret on its first definition line; Escape goes back.
+    w.touche("Return")
+    w.attendre_titre("banane")
+    w.attendre_ligne("fruit jaune")
+    egal(w.texte(), "banane\nfruit jaune", "article text")
+    w.touche("Escape")
+    w.attendre_titre("ANGLAIS francais")
+    w.attendre_ligne("banane")
+
+    # A long article goes to the rich text pane, which takes the place and the focus of txt.
+    w.touche("z", "Return")
+    w.attendre_titre("z\u00e8bre")
+    attendre(lambda: montre(w.rtb) and not montre(w.txt), "Rtb shown in place of txt")
+    attendre(lambda: a_le_focus(w.rtb), "the focus in Rtb")
+    w.attendre_ligne(ligne_longue(1), w.rtb)
+    egal(w.rtb.queryText().characterCount, sum(len(l) + 1 for l in ARTICLES[-1]) - 1, "length of the long article")
+    w.touche("Down")
+    w.attendre_ligne(ligne_longue(2), w.rtb)
+    w.touche("Escape")
+    attendre(lambda: montre(w.txt) and not montre(w.rtb) and a_le_focus(w.txt), "txt back with the focus")
+    w.attendre_ligne("z\u00e8bre")
+
+    # Menu shortcuts are commands even where the field has a binding of its own (Ctrl+A).
+    n = len(w.paroles)
+    w.touche("ctrl+a")
+    w.attendre_paroles(n + len(attendu[1]), "Ctrl+A")
+    egal(w.paroles[n:], attendu[1], "messages of Ctrl+A")
+    egal(w.txt.queryText().getNSelections(), 0, "selections in txt after Ctrl+A")
+    n = len(w.paroles)
+    w.touche("ctrl+b")
+    w.attendre_paroles(n + len(attendu[2]), "Ctrl+B")
+    egal(w.paroles[n:], attendu[2], "messages of Ctrl+B")
+
+    # Tab leaves the field for the buttons; a button gives the focus back to the field it uses.
+    w.touche("Tab")
+    attendre(lambda: a_le_focus(w.boutons[0]), "the focus on the first button")
+    egal(w.boutons[0].name, "D\u00e9finition", "first button")
+    w.touche("space")
+    w.attendre_titre("z\u00e8bre")
+    attendre(lambda: a_le_focus(w.rtb), "the focus back in the shown field after the button")
+    w.touche("Escape")
+    w.attendre_ligne("z\u00e8bre")
+
+    # An input box: its answer reaches the program, and the focus comes back to the field.
+    w.touche("ctrl+i")
+    w.dialogue("D\u00e9but de l'index")
+    w.touche("c", "e", "Return")
+    w.sans_dialogue()
+    w.attendre_ligne("cerise")
+
+    # From the menu bar by its access keys: two message boxes, then the font dialog, whose
+    # choice becomes the field's font.
+    w.touche("alt+o", "Return")
+    w.dialogue("police Courier Taille 10")
+    w.touche("Return")
+    w.dialogue("Voulez vous modifier la police de l'\u00e9cran")
+    w.touche("Return")  # Yes
+    w.dialogue("Size")
+    w.touche("Return")  # the font proposed, which is the field's
+    w.sans_dialogue()
+    police = w.txt.queryText().getDefaultAttributeSet()
+
+    # The close box ends the program, which saves the entry it was on and the font.
+    egal(lire_ansi(os.path.join(dossier, "lex301.INI"))[0], " 1", "saved position before closing")
+    w.fermer()
+    lignes = lire_ansi(os.path.join(dossier, "lex301.INI"))
+    egal(lignes[0], " 3", "saved position of ANGLAIS francais (cerise)")
+    egal(lignes[11:13], [police.get("family-name"), police.get("size")], "font lines of the configuration")
+
+
+if __name__ == "__main__":
+    sys.exit(principal(test))
