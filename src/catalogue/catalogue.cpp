@@ -82,8 +82,8 @@ void LireLigneCatalogue(Catalogue& c, std::string_view l) {
   auto q = r.find(',');
   if (q == std::string_view::npos) {
     // A line without a comma after the name loses its first three characters.
+    // The call letter stays the blank of an entry that has none.
     e.NomDictio = std::string(r.substr(std::min<std::size_t>(3, r.size())));
-    e.LettreAppel = " ";
   } else {
     e.NomDictio = std::string(r.substr(0, q));
     constexpr std::string_view kSans = "SansOrdreAlpha";

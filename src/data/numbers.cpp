@@ -19,6 +19,10 @@ std::int32_t Val(std::string_view t) {
   return static_cast<std::int32_t>(v);
 }
 
-std::string NombreImprime(std::int64_t n) { return (n >= 0 ? " " : "") + std::to_string(n); }
+std::string NombreImprime(std::int64_t n) {
+  std::string s = std::to_string(n);
+  if (n >= 0) s.insert(s.begin(), ' ');
+  return s;
+}
 
 }  // namespace lex

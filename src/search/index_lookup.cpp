@@ -24,16 +24,35 @@ std::size_t Commun(std::string_view a, std::string_view b) {
   return i;
 }
 
+// A key's head as a sorted dictionary is ordered by it: the part before the first "(", "["
+// or ",", less the "+", ")" and "]" that the order's folding drops and the key's keeps.
+std::string TeteTri(std::string_view cle) {
+  std::string t;
+  for (char c : cle) {
+    if (c == '(' || c == '[' || c == ',') break;
+    if (c != '+' && c != ')' && c != ']') t += c;
+  }
+  return t;
+}
+
+// The first entry whose head is not below `tete` (NombreArticle + 1 when none): every key
+// that begins with a beginning whose head is `tete` stands there or after.
+std::int32_t PremiereTete(const IndexTable& t, const std::string& tete) {
+  std::int32_t bas = 1, haut = t.NombreArticle() + 1;
+  while (bas < haut) {
+    const std::int32_t milieu = bas + (haut - bas) / 2;
+    if (TeteTri(t.cle(milieu)) < tete) bas = milieu + 1;
+    else haut = milieu;
+  }
+  return bas;
+}
+
 // Walks the keys of the shown list from the best starting place.
 class Parcours {
  public:
   Parcours(const Form& f, std::string_view plie) : f_(f), liste_(f.recherche.ListeEnCours) {
     trie_ = !liste_ && f.dico.OrdreAlpha;
-    if (trie_ && !plie.empty() && EstAZ(plie[0])) {
-      const char l2 = plie.size() >= 2 && EstAZ(plie[1]) ? plie[1] : '@';
-      const char l3 = plie.size() >= 3 && EstAZ(plie[2]) ? plie[2] : '@';
-      debut_ = std::clamp(f.dico.Lettres(plie[0], l2, l3), 1, std::max(1, NombreArticle(f)));
-    }
+    if (trie_ && !plie.empty()) debut_ = std::max(1, PremiereTete(f.dico.TableIndex, TeteTri(plie)) - kMargeTri);
   }
   std::int32_t debut() const { return debut_; }
   bool trie() const { return trie_; }
@@ -56,6 +75,19 @@ class Parcours {
 Trouve MeilleureEntree(const Form& f, std::string_view plie) {
   Parcours p(f, plie);
   const std::int32_t n = NombreArticle(f);
+  if (p.trie()) {
+    // The keys that share the most with `plie` stand together in a sorted dictionary, from
+    // the first that begins with that much of it; an equal key comes first among them.
+    for (std::size_t k = plie.size(); k >= 1; --k) {
+      const std::int32_t i = PremierCommencantPar(f, plie.substr(0, k));
+      if (i == 0) continue;
+      if (k == plie.size())
+        for (std::int32_t j = i; j <= std::min(n, i + kMargeTri); ++j)
+          if (p.Cle(j) == plie) return {j, true};
+      return {i, false};
+    }
+    return {1, false};
+  }
   std::size_t meilleur = 0;
   std::int32_t choisi = 1;
   int audela = 0;
