@@ -12,21 +12,30 @@ namespace {
 // a removed character disappears, everything else is upper-cased. The replacements never
 // produce a character that a later step would touch again, so one pass equals the
 // sequence replace-all / remove-all / upper-case.
+// Each character becomes at most two.
+struct Sortie {
+  char c[2] = {0, 0};
+  unsigned char n = 0;
+  void Pose(std::string_view s) {
+    n = static_cast<unsigned char>(s.size());
+    for (std::size_t i = 0; i < s.size(); ++i) c[i] = s[i];
+  }
+};
 struct Table {
-  std::array<std::string, 256> sortie;
+  std::array<Sortie, 256> sortie;
 };
 
 Table Construit(std::string_view ponctuation) {
   Table t;
-  for (int b = 0; b < 256; ++b) t.sortie[b] = std::string(1, MajusculeAnsi(static_cast<char>(b)));
-  for (char c : ponctuation) t.sortie[static_cast<unsigned char>(c)].clear();
+  for (int b = 0; b < 256; ++b) t.sortie[b].Pose(std::string(1, MajusculeAnsi(static_cast<char>(b))));
+  for (char c : ponctuation) t.sortie[static_cast<unsigned char>(c)].Pose("");
   // Accent list, lower-case then upper-case forms, with their replacement.
   const std::string_view accents = "\xE5\xE1`\xE0\xE2\xE4\xE3\xE6\xE7\xE9\xE8\xEA\xEB\xEC\xED\xEE\xEF\xF1\xF3\xF2\xF4\xF6\xF5\xF8\x9C\xFA\xF9\xFB\xFC\xFD";
   const char* remplace[30] = {"A", "A", "A", "A", "A", "A", "A", "AE", "C", "E", "E", "E", "E", "I", "I", "I", "I", "N",
                               "O", "O", "O", "O", "O", "O", "OE", "U", "U", "U", "U", "Y"};
   for (std::size_t i = 0; i < accents.size(); ++i) {
-    t.sortie[static_cast<unsigned char>(accents[i])] = remplace[i];
-    t.sortie[static_cast<unsigned char>(MajusculeAnsi(accents[i]))] = remplace[i];
+    t.sortie[static_cast<unsigned char>(accents[i])].Pose(remplace[i]);
+    t.sortie[static_cast<unsigned char>(MajusculeAnsi(accents[i]))].Pose(remplace[i]);
   }
   return t;
 }
@@ -48,7 +57,10 @@ const Table& TableSeule() {
 std::string Plie(std::string_view texte, const Table& t) {
   std::string out;
   out.reserve(texte.size());
-  for (char c : texte) out += t.sortie[static_cast<unsigned char>(c)];
+  for (char c : texte) {
+    const Sortie& x = t.sortie[static_cast<unsigned char>(c)];
+    out.append(x.c, x.n);
+  }
   return out;
 }
 
@@ -58,13 +70,16 @@ std::string Sansaccent(std::string_view texte) { return Plie(texte, TableComplet
 std::string SansAccentSeul(std::string_view texte) { return Plie(texte, TableSeule()); }
 std::string SansaccentEpure(std::string_view texte) { return Plie(texte, TableEpure()); }
 
-void SansaccentEpureDans(std::string_view texte, std::string& out) {
+std::size_t SansaccentEpureVers(std::string_view texte, char* dest) {
   const Table& t = TableEpure();
+  char* p = dest;
   for (char c : texte) {
-    const std::string& s = t.sortie[static_cast<unsigned char>(c)];
-    if (s.size() == 1) out.push_back(s[0]);
-    else out.append(s);
+    const Sortie& x = t.sortie[static_cast<unsigned char>(c)];
+    p[0] = x.c[0];
+    p[1] = x.c[1];
+    p += x.n;
   }
+  return static_cast<std::size_t>(p - dest);
 }
 
 std::string EXTRAITMOT_separateur(std::string_view chaine, int position, std::string_view separateur) {

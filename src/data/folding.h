@@ -13,8 +13,9 @@ std::string SansAccentSeul(std::string_view texte);
 // Accents folded, the reduced set removed (comma, plus, brackets kept so that notes can be
 // cut off a headword), upper-cased.
 std::string SansaccentEpure(std::string_view texte);
-// Same as SansaccentEpure, appended to `out` without a temporary (index building).
-void SansaccentEpureDans(std::string_view texte, std::string& out);
+// Same as SansaccentEpure, written to `dest`, which has room for twice the text; returns the
+// key's length (index building folds a million lines without a temporary string).
+std::size_t SansaccentEpureVers(std::string_view texte, char* dest);
 
 // The word of `chaine` covering the 1-based `position`; any character of `separateur` ends a
 // word. Throws error 5 for a position below 1.

@@ -9,6 +9,7 @@
 
 #include "data/files.h"
 #include "data/folding.h"
+#include "data/index_scanner.h"
 #include "data/numbers.h"
 #include "ui/error_trap.h"
 
@@ -54,7 +55,10 @@ void CopieCourte(char* d, const char* s, std::size_t n) {
 }
 
 void PoseChamp(char* dest, std::string_view s) {
-  std::memset(dest, ' ', kTailleChamp);
+  // A copy of a fixed size is a few vector stores; a memset of a varying size is a call.
+  static constexpr char kBlancs[kTailleChamp + 1] =
+      "                                                                      ";
+  std::memcpy(dest, kBlancs, kTailleChamp);
   CopieCourte(dest, s.data(), std::min(s.size(), kTailleChamp));
 }
 
@@ -176,66 +180,39 @@ void ConstruireIndex(const FichiersIndex& f, bool ordreAlpha, IndexTable& table,
   std::int64_t taille = LongueurFichier(f.dictio);
   if (taille > 0) table.Reserver(static_cast<std::size_t>(taille / 200 + 16));
 
-  std::vector<char> tampon(1 << 22);
-  std::size_t debut = 0, fin = 0;  // unread bytes are tampon[debut, fin)
-  bool eof = false;
-  std::string sortie;
-  sortie.reserve(kTailleEnreg * 8192);
-  std::string cle;
-  std::int64_t offset = 0;
+  // Records are made in place in a block written out when full.
+  constexpr std::size_t kParBloc = 8192;
+  std::vector<char> sortie(kTailleEnreg * kParBloc);
+  std::size_t enBloc = 0;
+  std::vector<char> tamponCle(256);
+  std::string_view cle;
   std::int32_t nombre = 0;
   int compteurBip = 0;
-  bool ligneIndex = true;
-
-  for (;;) {
-    const char* p = tampon.data() + debut;
-    const char* nl = static_cast<const char*>(std::memchr(p, '\n', fin - debut));
-    if (!nl && !eof) {
-      // Keep the partial line and read more; grow for a line longer than the buffer.
-      std::memmove(tampon.data(), p, fin - debut);
-      fin -= debut;
-      debut = 0;
-      if (fin == tampon.size()) tampon.resize(tampon.size() * 2);
-      std::size_t n = std::fread(tampon.data() + fin, 1, tampon.size() - fin, dic.get());
-      if (n == 0) eof = true;
-      fin += n;
-      continue;
+  LecteurIndex lecteur(dic.get());
+  std::string_view ligne;
+  std::int64_t offset = 0;
+  while (lecteur.Suivante(ligne, offset)) {
+    ++nombre;
+    if (tamponCle.size() < 2 * ligne.size()) tamponCle.resize(2 * ligne.size());
+    cle = {tamponCle.data(), SansaccentEpureVers(ligne, tamponCle.data())};
+    char* r = sortie.data() + enBloc * kTailleEnreg;
+    PoseChamp(r, ligne);
+    PoseChamp(r + kTailleChamp, cle);
+    PoseValeur(r + 2 * kTailleChamp, Offset32(offset));
+    if (++enBloc == kParBloc) {
+      Ecrire(idx.get(), sortie.data(), sortie.size());
+      enBloc = 0;
     }
-    if (!nl && debut == fin) break;
-    std::size_t longueur = nl ? static_cast<std::size_t>(nl - p) : fin - debut;
-    std::size_t finDeLigne = nl ? 1 : 0;
-    if (nl && longueur > 0 && p[longueur - 1] == '\r') {
-      --longueur;
-      finDeLigne = 2;
+    table.Ajouter(ligne, cle, Offset32(offset));
+    if (++compteurBip == 25000) {
+      bip();
+      compteurBip = 0;
     }
-    std::string_view ligne(p, longueur);
-    if (ligne.empty()) {
-      ligneIndex = true;
-    } else if (ligneIndex) {
-      ++nombre;
-      cle.clear();
-      SansaccentEpureDans(ligne, cle);
-      enreg.Index(ligne);
-      enreg.Cle(cle);
-      enreg.Valeur(Offset32(offset));
-      sortie.append(enreg.octets, kTailleEnreg);
-      if (sortie.size() >= kTailleEnreg * 8192) {
-        Ecrire(idx.get(), sortie.data(), sortie.size());
-        sortie.clear();
-      }
-      table.Ajouter(ligne, cle, Offset32(offset));
-      ligneIndex = false;
-      if (++compteurBip == 25000) {
-        bip();
-        compteurBip = 0;
-      }
-    }
-    offset += static_cast<std::int64_t>(longueur + finDeLigne);
-    debut += longueur + finDeLigne;
-    if (!nl) break;
   }
+  Ecrire(idx.get(), sortie.data(), enBloc * kTailleEnreg);
+  // The header records carry the key the record buffer last held.
+  enreg.Cle(cle);
   dic.reset();
-  Ecrire(idx.get(), sortie.data(), sortie.size());
 
   taille = LongueurFichier(f.dictio);
   if (std::fseek(idx.get(), 0, SEEK_SET) != 0) Erreur(52);
