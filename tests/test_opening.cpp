@@ -58,24 +58,6 @@ TEST(Opening, IndexIsBuiltThenReloadedThenRebuiltWhenTheDictionaryChanges) {
   EXPECT_EQ(s.f.dico.TableIndex.NombreArticle(), 3);
 }
 
-TEST(Opening, ArticleAndWayBack) {
-  Session s;
-  s.Charge();
-  s.Ouvre();
-  s.ui.txtSel = {s.ui.txt.find("chien"), 0};
-  s.Touche(13);
-  EXPECT_EQ(s.f.fenetre.ModeCourant, 3);
-  EXPECT_EQ(s.ui.txt, "chien (n.)\r\ndog");
-  EXPECT_EQ(s.ui.DernierMessage(), " dog");
-  EXPECT_EQ(s.ui.title, "chien (n.)");
-  s.Touche(27);
-  EXPECT_EQ(s.f.fenetre.ModeCourant, 2);
-  EXPECT_EQ(LigneCourante(s.f), "chien (n.)");  // back on the entry that was read
-  s.Touche(27);
-  EXPECT_EQ(s.f.fenetre.ModeCourant, 1);
-  EXPECT_EQ(s.f.catalogue[1].PositionDictio, 2);  // the dictionary reopens there
-}
-
 TEST(Opening, MissingDictionaryAndModifiedCopy) {
   Session s;
   std::filesystem::remove(CheminNatif(s.d.Chemin("lex.eng")));
