@@ -3,6 +3,7 @@
 #include <bit>
 #include <cstdio>
 #include <cstring>
+#include <future>
 #include <limits>
 #include <memory>
 #include <vector>
@@ -180,9 +181,15 @@ void ConstruireIndex(const FichiersIndex& f, bool ordreAlpha, IndexTable& table,
   std::int64_t taille = LongueurFichier(f.dictio);
   if (taille > 0) table.Reserver(static_cast<std::size_t>(taille / 200 + 16));
 
-  // Records are made in place in a block written out when full.
+  // Records are made in place in a block; a full block is written while the next one fills.
   constexpr std::size_t kParBloc = 8192;
-  std::vector<char> sortie(kTailleEnreg * kParBloc);
+  std::vector<char> blocs[2] = {std::vector<char>(kTailleEnreg * kParBloc), std::vector<char>(kTailleEnreg * kParBloc)};
+  int courant = 0;
+  std::future<int> ecriture;  // errno of the write under way, 0 when it went well
+  const auto attendEcriture = [&ecriture] {
+    if (!ecriture.valid()) return;
+    if (const int erreur = ecriture.get(); erreur != 0) ErreurFichier(std::error_code(erreur, std::generic_category()));
+  };
   std::size_t enBloc = 0;
   std::vector<char> tamponCle(256);
   std::string_view cle;
@@ -195,12 +202,17 @@ void ConstruireIndex(const FichiersIndex& f, bool ordreAlpha, IndexTable& table,
     ++nombre;
     if (tamponCle.size() < 2 * ligne.size()) tamponCle.resize(2 * ligne.size());
     cle = {tamponCle.data(), SansaccentEpureVers(ligne, tamponCle.data())};
-    char* r = sortie.data() + enBloc * kTailleEnreg;
+    char* r = blocs[courant].data() + enBloc * kTailleEnreg;
     PoseChamp(r, ligne);
     PoseChamp(r + kTailleChamp, cle);
     PoseValeur(r + 2 * kTailleChamp, Offset32(offset));
     if (++enBloc == kParBloc) {
-      Ecrire(idx.get(), sortie.data(), sortie.size());
+      attendEcriture();
+      ecriture = std::async(std::launch::async, [f = idx.get(), d = blocs[courant].data(), n = blocs[courant].size()] {
+        errno = 0;
+        return std::fwrite(d, 1, n, f) == n ? 0 : (errno ? errno : ENOSPC);
+      });
+      courant ^= 1;
       enBloc = 0;
     }
     table.Ajouter(ligne, cle, Offset32(offset));
@@ -209,7 +221,8 @@ void ConstruireIndex(const FichiersIndex& f, bool ordreAlpha, IndexTable& table,
       compteurBip = 0;
     }
   }
-  Ecrire(idx.get(), sortie.data(), enBloc * kTailleEnreg);
+  attendEcriture();
+  Ecrire(idx.get(), blocs[courant].data(), enBloc * kTailleEnreg);
   // The header records carry the key the record buffer last held.
   enreg.Cle(cle);
   dic.reset();
