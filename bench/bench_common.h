@@ -26,11 +26,14 @@
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
+#include <fstream>
 #include <optional>
 #include <stdexcept>
 #include <string>
 #include <vector>
 
+#include "data/files.h"
+#include "data/index_file.h"
 #include "ui/ui_services.h"
 
 extern char** environ;
@@ -214,6 +217,23 @@ inline Options LireOptions(int argc, char** argv) {
   }
   if (o.dict.empty() || o.work.empty()) Echec("usage: --dict FILE --work DIR [--reps N]");
   return o;
+}
+
+// The index and letter files of the dictionary under test, in the work folder.
+inline FichiersIndex Fichiers(const Options& o) {
+  const std::string nom = NomFichSeul(o.dict);
+  return {o.dict, o.work + "/index." + nom, o.work + "/lettre." + nom};
+}
+
+// A field of /proc/self/status (VmRSS, VmHWM...), in bytes, or -1.
+inline std::int64_t StatutOctets(const char* champ) {
+  std::ifstream in("/proc/self/status");
+  std::string ligne;
+  const std::size_t n = std::strlen(champ);
+  while (std::getline(in, ligne))
+    if (ligne.compare(0, n, champ) == 0 && ligne.size() > n && ligne[n] == ':')
+      return std::atoll(ligne.c_str() + n + 1) * 1024;
+  return -1;
 }
 
 }  // namespace lex::bench

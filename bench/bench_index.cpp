@@ -59,21 +59,6 @@ using namespace lex::bench;
 
 constexpr double kMilliseconde = 1e-3;
 
-FichiersIndex Fichiers(const Options& o) {
-  const std::string nom = NomFichSeul(o.dict);
-  return {o.dict, o.work + "/index." + nom, o.work + "/lettre." + nom};
-}
-
-// A field of /proc/self/status, in bytes.
-std::int64_t StatutKo(const char* champ) {
-  std::ifstream in("/proc/self/status");
-  std::string ligne;
-  const std::size_t n = std::strlen(champ);
-  while (std::getline(in, ligne))
-    if (ligne.compare(0, n, champ) == 0 && ligne.size() > n && ligne[n] == ':')
-      return std::atoll(ligne.c_str() + n + 1) * 1024;
-  return -1;
-}
 
 std::int64_t OctetsTextesEtCles(const IndexTable& t) {
   std::int64_t total = 0;
@@ -84,7 +69,7 @@ std::int64_t OctetsTextesEtCles(const IndexTable& t) {
 
 // Child process: the memory an index takes once loaded, in a process that did nothing else.
 int Memoire(const Options& o) {
-  const std::int64_t avant = StatutKo("VmRSS");
+  const std::int64_t avant = StatutOctets("VmRSS");
   IndexTable table;
   TableLettre lettres;
   g_compte = true;
@@ -92,7 +77,7 @@ int Memoire(const Options& o) {
   const std::int64_t vivant = g_vivant;
   const std::int64_t pic = g_pic;
   g_compte = false;
-  const std::int64_t hwm = StatutKo("VmHWM");
+  const std::int64_t hwm = StatutOctets("VmHWM");
   if (etat != EtatIndex::Charge) Echec("memory: the index is not current");
   std::printf("%lld %lld %lld %lld %d\n", static_cast<long long>(hwm - avant), static_cast<long long>(pic),
               static_cast<long long>(vivant), static_cast<long long>(OctetsTextesEtCles(table)),

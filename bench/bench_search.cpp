@@ -24,21 +24,6 @@ namespace {
 using namespace lex;
 using namespace lex::bench;
 
-FichiersIndex Fichiers(const Options& o) {
-  const std::string nom = NomFichSeul(o.dict);
-  return {o.dict, o.work + "/index." + nom, o.work + "/lettre." + nom};
-}
-
-// A field of /proc/self/status, in bytes.
-std::int64_t StatutOctets(const char* champ) {
-  std::ifstream in("/proc/self/status");
-  std::string ligne;
-  const std::size_t n = std::strlen(champ);
-  while (std::getline(in, ligne))
-    if (ligne.compare(0, n, champ) == 0 && ligne.size() > n && ligne[n] == ':')
-      return std::atoll(ligne.c_str() + n + 1) * 1024;
-  return -1;
-}
 
 // A value of the generator's DICT.info file, or "".
 std::string Info(const std::string& dict, const std::string& cle) {

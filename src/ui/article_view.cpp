@@ -1,5 +1,6 @@
 #include "ui/article_view.h"
 
+#include "data/blanks.h"
 #include "ui/error_trap.h"
 #include "ui/form.h"
 #include "ui/index_view.h"
@@ -7,13 +8,6 @@
 #include "ui/message.h"
 
 namespace lex {
-namespace {
-std::string SansBlancs(std::string_view s) {
-  auto d = s.find_first_not_of(' ');
-  if (d == std::string_view::npos) return {};
-  return std::string(s.substr(d, s.find_last_not_of(' ') - d + 1));
-}
-}  // namespace
 
 void MontreArticle(Form& f, std::int32_t numero, const std::string& article, std::size_t curseur) {
   EtatFenetre& w = f.fenetre;

@@ -2,6 +2,7 @@
 
 #include "data/files.h"
 #include "data/numbers.h"
+#include "data/blanks.h"
 #include "ui/error_trap.h"
 #include "ui/form.h"
 #include "ui/line_helpers.h"
@@ -10,10 +11,6 @@
 namespace lex {
 namespace {
 
-std::string SansBlancs(const std::string& s) {
-  auto d = s.find_first_not_of(' ');
-  return d == std::string::npos ? std::string() : s.substr(d, s.find_last_not_of(' ') - d + 1);
-}
 
 void MontreTexteAide(Form& f, const std::string& texte) {
   if (f.ui.IsPaneVisible()) f.ui.SetPaneVisible(false);

@@ -1,0 +1,13 @@
+// Index lines and font names are compared without their surrounding blanks.
+#pragma once
+#include <string>
+#include <string_view>
+
+namespace lex {
+
+inline std::string SansBlancs(std::string_view s) {
+  const auto d = s.find_first_not_of(' ');
+  return d == std::string_view::npos ? std::string() : std::string(s.substr(d, s.find_last_not_of(' ') - d + 1));
+}
+
+}  // namespace lex
