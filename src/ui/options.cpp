@@ -1,8 +1,8 @@
 #include "ui/options.h"
 
+#include "data/blanks.h"
 #include "data/files.h"
 #include "data/numbers.h"
-#include "data/blanks.h"
 #include "ui/error_trap.h"
 #include "ui/form.h"
 #include "ui/line_helpers.h"
@@ -10,7 +10,6 @@
 
 namespace lex {
 namespace {
-
 
 void MontreTexteAide(Form& f, const std::string& texte) {
   if (f.ui.IsPaneVisible()) f.ui.SetPaneVisible(false);
