@@ -101,7 +101,7 @@ TEST(IndexFile, LetterTable) {
 TEST(IndexFile, ProgressBeepsAreShared) {
   Index x;
   std::string dic;
-  for (int i = 0; i < 30000; ++i) dic += "m" + std::to_string(i) + "\r\nd\r\n\r\n";
+  for (int i = 0; i < 30000; ++i) dic.append("m").append(std::to_string(i)).append("\r\nd\r\n\r\n");
   x.Construit(dic);
   // One beep at 25,000 index lines; the letter loop goes on from 5,000 and beeps at 20,000.
   EXPECT_EQ(x.bips, 2);
