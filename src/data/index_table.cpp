@@ -32,9 +32,9 @@ void IndexTable::Ajouter(std::string_view texte, std::string_view cle, std::int3
 
 void IndexTable::Terminer(std::int32_t tailleDictio) {
   taille_ = tailleDictio;
+  // Capacity reserved from an estimate and never written costs address space, not memory:
+  // giving it back would copy the whole table.
   positions_.push_back(tailleDictio);
-  refs_.shrink_to_fit();
-  positions_.shrink_to_fit();
 }
 
 void IndexTable::Verifier(std::int32_t i, bool sentinelle) const {
