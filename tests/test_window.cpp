@@ -71,10 +71,11 @@ TEST(Window, ErrorTrapReportsTheInnermostLabelAndEndsTheProgram) {
   test::FakeUi ui2;
   Form g(ui2);
   bool fin = false;
+  test::DossierTemp d;
   RunTrapped(ui2, fin, [&] {
     IndexTable t;
     TableLettre l;
-    ConstruireIndex({"/nulle/part/dic.txt", "/nulle/part/i", "/nulle/part/l"}, true, t, l, [] {});
+    ConstruireIndex({d.Chemin("absent.txt"), d.Chemin("i"), d.Chemin("l")}, true, t, l, [] {});
   });
   ASSERT_EQ(ui2.boxes.size(), 2u);
   EXPECT_EQ(ui2.boxes[0], "53Fichier introuvable sur InitIndex");

@@ -71,19 +71,32 @@ namespace {
   ErreurFichier(std::error_code(errno ? errno : ENOENT, std::generic_category()));
 }
 
-struct Fermeur {
-  void operator()(std::FILE* f) const { std::fclose(f); }
-};
-using Fichier = std::unique_ptr<std::FILE, Fermeur>;
+}  // namespace
 
-Fichier Ouvrir(std::string_view nom, const char* mode) {
+Fichier OuvrirFichier(std::string_view nom, const char* mode) {
   auto p = CheminNatif(nom);
   errno = 0;
   Fichier f(std::fopen(p.c_str(), mode));
   if (!f) ErreurOuverture(p);
   return f;
 }
+
+Fichier OuvrirSiPossible(std::string_view nom, const char* mode) {
+  return Fichier(std::fopen(CheminNatif(nom).c_str(), mode));
+}
+
+namespace {
+[[noreturn]] void ErreurEcriture() { ErreurFichier(std::error_code(errno ? errno : ENOSPC, std::generic_category())); }
 }  // namespace
+
+void EcrireOctets(std::FILE* f, const char* p, std::size_t n) {
+  errno = 0;
+  if (n && std::fwrite(p, 1, n, f) != n) ErreurEcriture();
+}
+
+void ViderFichier(std::FILE* f) {
+  if (std::fflush(f) != 0) ErreurEcriture();
+}
 
 void CopierFichier(std::string_view source, std::string_view destination) {
   std::error_code ec;
@@ -97,14 +110,8 @@ void SupprimerFichier(std::string_view nom) {
   if (ec) ErreurFichier(ec);
 }
 
-void RenommerFichier(std::string_view ancien, std::string_view nouveau) {
-  std::error_code ec;
-  fs::rename(CheminNatif(ancien), CheminNatif(nouveau), ec);
-  if (ec) ErreurFichier(ec);
-}
-
 std::vector<std::string> LireLignes(std::string_view nom) {
-  Fichier f = Ouvrir(nom, "rb");
+  Fichier f = OuvrirFichier(nom, "rb");
   std::string tout;
   char tampon[65536];
   std::size_t n;
@@ -123,17 +130,17 @@ std::vector<std::string> LireLignes(std::string_view nom) {
 }
 
 void EcrireLignes(std::string_view nom, const std::vector<std::string>& lignes) {
-  Fichier f = Ouvrir(nom, "wb");
+  Fichier f = OuvrirFichier(nom, "wb");
   for (const auto& l : lignes) {
-    if (std::fwrite(l.data(), 1, l.size(), f.get()) != l.size() || std::fwrite("\r\n", 1, 2, f.get()) != 2)
-      ErreurFichier(std::error_code(errno ? errno : ENOSPC, std::generic_category()));
+    EcrireOctets(f.get(), l.data(), l.size());
+    EcrireOctets(f.get(), "\r\n", 2);
   }
-  if (std::fflush(f.get()) != 0) ErreurFichier(std::error_code(errno ? errno : ENOSPC, std::generic_category()));
+  ViderFichier(f.get());
 }
 
 std::string LireOctets(std::string_view nom, std::int64_t debut, std::int64_t longueur) {
   if (debut < 0 || longueur < 0) Erreur(5);
-  Fichier f = Ouvrir(nom, "rb");
+  Fichier f = OuvrirFichier(nom, "rb");
   std::string tampon(static_cast<std::size_t>(longueur), ' ');
   if (longueur == 0) return tampon;
   if (std::fseek(f.get(), static_cast<long>(debut), SEEK_SET) != 0) return tampon;

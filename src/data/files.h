@@ -2,7 +2,9 @@
 // system's own encoding only here. Failures raise the classic run-time errors.
 #pragma once
 #include <cstdint>
+#include <cstdio>
 #include <filesystem>
+#include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -33,7 +35,6 @@ std::int64_t LongueurFichier(std::string_view nom);
 
 void CopierFichier(std::string_view source, std::string_view destination);
 void SupprimerFichier(std::string_view nom);
-void RenommerFichier(std::string_view ancien, std::string_view nouveau);
 
 // The lines of a text file, each without its line end; a CR before LF belongs to the line
 // end, so LF-only and mixed files read like CR LF ones. Error 53 when the file is missing.
@@ -46,5 +47,18 @@ std::string LireOctets(std::string_view nom, std::int64_t debut, std::int64_t lo
 
 // Maps an errno-style failure to the classic error number.
 [[noreturn]] void ErreurFichier(const std::error_code& ec);
+
+// Byte-exact access for the files written by blocks (index and letter files).
+struct FermeFichier {
+  void operator()(std::FILE* f) const { std::fclose(f); }
+};
+using Fichier = std::unique_ptr<std::FILE, FermeFichier>;
+// Opens or raises the classic error (53, 76, 70...).
+Fichier OuvrirFichier(std::string_view nom, const char* mode);
+// Opens, or gives nullptr without a word.
+Fichier OuvrirSiPossible(std::string_view nom, const char* mode);
+// Writes all of it and flushes, or raises the classic error (61 for a full disk).
+void EcrireOctets(std::FILE* f, const char* p, std::size_t n);
+void ViderFichier(std::FILE* f);
 
 }  // namespace lex

@@ -17,22 +17,6 @@
 namespace lex {
 namespace {
 
-struct Fermeur {
-  void operator()(std::FILE* f) const { std::fclose(f); }
-};
-using Fichier = std::unique_ptr<std::FILE, Fermeur>;
-
-Fichier Ouvrir(std::string_view nom, const char* mode) {
-  errno = 0;
-  Fichier f(std::fopen(CheminNatif(nom).c_str(), mode));
-  if (!f) ErreurFichier(std::error_code(errno ? errno : ENOENT, std::generic_category()));
-  return f;
-}
-
-void Ecrire(std::FILE* f, const char* p, std::size_t n) {
-  if (n && std::fwrite(p, 1, n, f) != n) ErreurFichier(std::error_code(errno ? errno : ENOSPC, std::generic_category()));
-}
-
 // Copies n bytes in fixed-size pieces: a copy of a short length that the compiler knows to be
 // bounded is inlined as "rep movs", which costs more than the copy itself.
 void CopieCourte(char* d, const char* s, std::size_t n) {
@@ -169,13 +153,13 @@ void ConstruireIndex(const FichiersIndex& f, bool ordreAlpha, IndexTable& table,
            std::to_string(diag.article) + ";" + texte;
   });
 
-  Fichier dic = Ouvrir(f.dictio, "rb");
-  Fichier idx = Ouvrir(f.index, "wb");
+  Fichier dic = OuvrirFichier(f.dictio, "rb");
+  Fichier idx = OuvrirFichier(f.index, "wb");
   Enreg enreg;
   enreg.Index(kVersionIndex);
-  Ecrire(idx.get(), enreg.octets, kTailleEnreg);
+  EcrireOctets(idx.get(), enreg.octets, kTailleEnreg);
   enreg.Index("");
-  Ecrire(idx.get(), enreg.octets, kTailleEnreg);
+  EcrireOctets(idx.get(), enreg.octets, kTailleEnreg);
 
   table.Vider();
   std::int64_t taille = LongueurFichier(f.dictio);
@@ -222,7 +206,7 @@ void ConstruireIndex(const FichiersIndex& f, bool ordreAlpha, IndexTable& table,
     }
   }
   attendEcriture();
-  Ecrire(idx.get(), blocs[courant].data(), enBloc * kTailleEnreg);
+  EcrireOctets(idx.get(), blocs[courant].data(), enBloc * kTailleEnreg);
   // The header records carry the key the record buffer last held.
   enreg.Cle(cle);
   dic.reset();
@@ -231,11 +215,11 @@ void ConstruireIndex(const FichiersIndex& f, bool ordreAlpha, IndexTable& table,
   if (std::fseek(idx.get(), 0, SEEK_SET) != 0) Erreur(52);
   enreg.Index(kVersionIndex);
   enreg.Valeur(nombre);
-  Ecrire(idx.get(), enreg.octets, kTailleEnreg);
+  EcrireOctets(idx.get(), enreg.octets, kTailleEnreg);
   enreg.Index("");
   enreg.Valeur(Offset32(taille));
-  Ecrire(idx.get(), enreg.octets, kTailleEnreg);
-  if (std::fflush(idx.get()) != 0) ErreurFichier(std::error_code(errno ? errno : ENOSPC, std::generic_category()));
+  EcrireOctets(idx.get(), enreg.octets, kTailleEnreg);
+  ViderFichier(idx.get());
   idx.reset();
 
   table.Terminer(Offset32(taille));
@@ -244,15 +228,14 @@ void ConstruireIndex(const FichiersIndex& f, bool ordreAlpha, IndexTable& table,
   std::string lignes;
   lignes.reserve(TableLettre::kTaille * 8);
   for (std::int32_t v : lettres.valeurs()) lignes.append(NombreImprime(v)).append("\r\n");
-  Fichier let = Ouvrir(f.lettre, "wb");
-  Ecrire(let.get(), lignes.data(), lignes.size());
-  if (std::fflush(let.get()) != 0) ErreurFichier(std::error_code(errno ? errno : ENOSPC, std::generic_category()));
+  Fichier let = OuvrirFichier(f.lettre, "wb");
+  EcrireOctets(let.get(), lignes.data(), lignes.size());
+  ViderFichier(let.get());
 }
 
 std::string VersionIndex(std::string_view fichierIndex) {
-  std::FILE* brut = std::fopen(CheminNatif(fichierIndex).c_str(), "rb");
-  if (!brut) return {};
-  Fichier f(brut);
+  Fichier f = OuvrirSiPossible(fichierIndex, "rb");
+  if (!f) return {};
   char tete[kTailleChamp];
   if (std::fread(tete, 1, kTailleChamp, f.get()) != kTailleChamp) return {};
   std::string_view v = SansBlancsFinaux(tete, kTailleChamp);
@@ -263,9 +246,8 @@ std::string VersionIndex(std::string_view fichierIndex) {
 EtatIndex LireIndex(const FichiersIndex& f, std::int64_t tailleDictio, IndexTable& table, TableLettre& lettres) {
   table.Vider();
   if (VersionIndex(f.index) != kVersionIndex) return EtatIndex::Version;
-  std::FILE* brut = std::fopen(CheminNatif(f.index).c_str(), "rb");
-  if (!brut) return EtatIndex::Perime;
-  Fichier idx(brut);
+  Fichier idx = OuvrirSiPossible(f.index, "rb");
+  if (!idx) return EtatIndex::Perime;
   char tete[2 * kTailleEnreg];
   if (std::fread(tete, 1, sizeof tete, idx.get()) != sizeof tete) return EtatIndex::Perime;
   const std::int32_t nombre = LitValeur(tete + 2 * kTailleChamp);

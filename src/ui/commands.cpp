@@ -41,8 +41,6 @@ void InscrireCommandesFenetre(TableCommandes& t) {
   t[MenuId::mnuApropos] = mnuApropos_Click;
 }
 
-bool CommandeDisponible(MenuId id) { return Table().count(id) != 0; }
-
 void ExecuteMenu(Form& f, MenuId id) {
   auto it = Table().find(id);
   if (it == Table().end()) message(f, "commande non disponible dans cette version");

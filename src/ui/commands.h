@@ -13,7 +13,6 @@ using TableCommandes = std::map<MenuId, Commande>;
 
 // Runs the command of a menu entry; an entry whose command this version lacks says so.
 void ExecuteMenu(Form& f, MenuId id);
-bool CommandeDisponible(MenuId id);
 
 // Each subsystem adds its commands.
 void InscrireCommandesFenetre(TableCommandes& t);
