@@ -18,14 +18,6 @@ void EntreeListe(Form& f) {
   f.ui.SetButtonVisible(Bouton::CmdDivers, false);
 }
 
-void MontreTexte(Form& f, const std::string& texte) {
-  if (f.ui.IsPaneVisible()) {
-    f.ui.SetPaneVisible(false);
-    f.ui.FocusLine();
-  }
-  f.ui.SetLineText(texte);
-}
-
 }  // namespace
 
 void AfficheListeDictio(Form& f) {
@@ -38,7 +30,7 @@ void AfficheListeDictio(Form& f) {
   for (int i = 1; i <= 9; ++i) texte += c[i].LigneListe + "\r\n";
   for (int i = 10 + c.NombreHistoire; i <= c.NombreDictio() - 1; ++i) texte += c[i].LigneListe + "\r\n";
   texte += c[c.NombreDictio()].LigneListe;
-  MontreTexte(f, texte);
+  MontreDansTxt(f, texte);
   EntreeListe(f);
   NumeroLigneDictio(f);
   AfficheStatus(f);
@@ -50,7 +42,7 @@ void AfficheListeHistoire(Form& f) {
   std::string texte = "LISTE DES DICTIONNAIRES sans ordre alphab\xE9tique\r\n\r\n";
   for (int i = 10; i <= 8 + c.NombreHistoire; ++i) texte += c[i].LigneListe + "\r\n";
   if (c.NombreHistoire >= 1) texte += c[9 + c.NombreHistoire].LigneListe;
-  MontreTexte(f, texte);
+  MontreDansTxt(f, texte);
   EntreeListe(f);
   SurNumero(f, c[9].PositionDictio + 2);
   AfficheStatus(f);

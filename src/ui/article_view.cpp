@@ -14,8 +14,7 @@ void MontreArticle(Form& f, std::int32_t numero, const std::string& article, std
   w.IndexCourant = numero;
   w.TexteIndexCourant = SansBlancs(TexteIndex(f, numero));
   if (article.size() <= kLongueurMaxTxt) {
-    if (f.ui.IsPaneVisible()) f.ui.SetPaneVisible(false);
-    f.ui.SetLineText(article);
+    MontreDansTxt(f, article);
     f.ui.FocusLine();
   } else {
     f.ui.SetPaneText(article);

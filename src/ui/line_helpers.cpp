@@ -91,3 +91,14 @@ void FocusChamp(Form& f) {
   else f.ui.FocusLine();
 }
 }  // namespace lex
+
+namespace lex {
+void MontreDansTxt(Form& f, const std::string& texte) {
+  if (f.ui.IsPaneVisible()) {
+    f.ui.SetPaneVisible(false);
+    f.ui.FocusLine();
+  }
+  f.ui.SetLineText(texte);
+  f.ui.SetLineSelection(0, 0);
+}
+}  // namespace lex

@@ -32,6 +32,9 @@ std::int32_t WhereX(const Form& f);
 std::size_t DebutLigne(const std::string& texte, std::int32_t n);
 // The number, in the shown list, of the index entry under the caret.
 std::int32_t IndexAbsolu(const Form& f);
+// Puts `texte` in the index field, in place of the rich text pane if that was shown, the
+// caret at its start.
+void MontreDansTxt(Form& f, const std::string& texte);
 // Gives the keyboard focus to the shown field.
 void FocusChamp(Form& f);
 // Puts the caret's line in the field's place and announces it.

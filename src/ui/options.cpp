@@ -12,9 +12,7 @@ namespace lex {
 namespace {
 
 void MontreTexteAide(Form& f, const std::string& texte) {
-  if (f.ui.IsPaneVisible()) f.ui.SetPaneVisible(false);
-  f.ui.SetLineText(texte);
-  f.ui.SetLineSelection(0, 0);
+  MontreDansTxt(f, texte);
   f.ui.FocusLine();
   f.ui.SetButtonCaption(Bouton::CmdDic, "OK");
   f.ui.SetButtonVisible(Bouton::CmdDic, true);

@@ -4,6 +4,7 @@
 
 #include "ui/form.h"
 #include "ui/index_view.h"
+#include "ui/line_helpers.h"
 
 namespace lex {
 namespace {
@@ -39,12 +40,7 @@ void InitTableIndex(Form& f) {
   const auto source = SourceCourante(f);
   std::int32_t& premier = f.fenetre.PremierIndexAffiche;
   premier = std::clamp(premier, 1, std::max(1, source->Nombre()));
-  if (f.ui.IsPaneVisible()) {
-    f.ui.SetPaneVisible(false);
-    f.ui.FocusLine();
-  }
-  f.ui.SetLineText(TextePage(*source, premier));
-  f.ui.SetLineSelection(0, 0);
+  MontreDansTxt(f, TextePage(*source, premier));
 }
 
 }  // namespace lex
