@@ -12,7 +12,7 @@
 #include <sstream>
 
 #include "bench_common.h"
-#include "data/encoding.h"
+#include "base/encoding.h"
 #include "data/files.h"
 #include "data/index_file.h"
 #include "search/string_list.h"

@@ -17,7 +17,7 @@
 #include <string>
 #include <vector>
 
-#include "data/encoding.h"
+#include "base/encoding.h"
 #include "data/files.h"
 
 namespace fs = std::filesystem;

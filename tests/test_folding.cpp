@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "data/encoding.h"
+#include "base/encoding.h"
 #include "data/folding.h"
 #include "ui/error_trap.h"
 

@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <random>
 
-#include "data/encoding.h"
+#include "base/encoding.h"
 #include "data/index_file.h"
 #include "search/article_scan.h"
 #include "search/article_text.h"

@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "data/files.h"
-#include "data/numbers.h"
+#include "base/numbers.h"
 #include "ui/form.h"
 
 namespace lex {

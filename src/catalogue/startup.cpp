@@ -4,7 +4,7 @@
 #include "catalogue/lists.h"
 #include "catalogue/saving.h"
 #include "data/files.h"
-#include "data/numbers.h"
+#include "base/numbers.h"
 #include "ui/error_trap.h"
 #include "ui/form.h"
 #include "ui/index_view.h"

@@ -1,7 +1,7 @@
 #include "data/dictionary_file.h"
 
 #include "data/files.h"
-#include "ui/error_trap.h"
+#include "base/error.h"
 
 namespace lex {
 namespace {

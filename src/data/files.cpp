@@ -5,8 +5,8 @@
 #include <fstream>
 #include <memory>
 
-#include "data/encoding.h"
-#include "ui/error_trap.h"
+#include "base/encoding.h"
+#include "base/error.h"
 
 namespace lex {
 namespace fs = std::filesystem;

@@ -2,8 +2,8 @@
 
 #include <array>
 
-#include "data/encoding.h"
-#include "ui/error_trap.h"
+#include "base/encoding.h"
+#include "base/error.h"
 
 namespace lex {
 namespace {

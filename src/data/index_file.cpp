@@ -11,8 +11,8 @@
 #include "data/files.h"
 #include "data/folding.h"
 #include "data/index_scanner.h"
-#include "data/numbers.h"
-#include "ui/error_trap.h"
+#include "base/numbers.h"
+#include "base/error.h"
 
 namespace lex {
 namespace {

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cstring>
 
-#include "ui/error_trap.h"
+#include "base/error.h"
 
 namespace lex {
 

@@ -1,6 +1,6 @@
 #include "search/article_text.h"
 
-#include "data/encoding.h"
+#include "base/encoding.h"
 #include "ui/error_trap.h"
 
 namespace lex {

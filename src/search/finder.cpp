@@ -3,7 +3,7 @@
 #include <cstring>
 #include <vector>
 
-#include "data/encoding.h"
+#include "base/encoding.h"
 
 namespace lex {
 namespace {

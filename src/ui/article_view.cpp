@@ -1,6 +1,6 @@
 #include "ui/article_view.h"
 
-#include "data/blanks.h"
+#include "base/blanks.h"
 #include "ui/error_trap.h"
 #include "ui/form.h"
 #include "ui/index_view.h"

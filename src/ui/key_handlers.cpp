@@ -2,7 +2,7 @@
 
 #include "catalogue/opening.h"
 #include "data/folding.h"
-#include "data/encoding.h"
+#include "base/encoding.h"
 #include "ui/article_view.h"
 #include "ui/buttons.h"
 #include "ui/commands.h"

@@ -1,8 +1,8 @@
 #include "ui/options.h"
 
-#include "data/blanks.h"
+#include "base/blanks.h"
 #include "data/files.h"
-#include "data/numbers.h"
+#include "base/numbers.h"
 #include "ui/error_trap.h"
 #include "ui/form.h"
 #include "ui/line_helpers.h"

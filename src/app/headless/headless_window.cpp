@@ -2,7 +2,7 @@
 
 #include <cstdio>
 
-#include "data/encoding.h"
+#include "base/encoding.h"
 
 namespace lex::headless {
 

@@ -5,7 +5,7 @@
 #include <string>
 
 #include "app/headless/script.h"
-#include "data/encoding.h"
+#include "base/encoding.h"
 
 int main(int argc, char** argv) {
   std::string dossier, script;

@@ -4,7 +4,7 @@
 #include <vector>
 
 #include "app/headless/headless_window.h"
-#include "data/encoding.h"
+#include "base/encoding.h"
 #include "ui/events.h"
 #include "ui/keys.h"
 

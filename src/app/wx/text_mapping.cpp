@@ -1,6 +1,6 @@
 #include "app/wx/text_mapping.h"
 
-#include "data/encoding.h"
+#include "base/encoding.h"
 
 namespace lex::wx {
 namespace {

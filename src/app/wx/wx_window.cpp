@@ -14,7 +14,7 @@
 #include <algorithm>
 
 #include "app/wx/text_mapping.h"
-#include "data/encoding.h"
+#include "base/encoding.h"
 
 namespace lex::wx {
 

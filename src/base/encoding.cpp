@@ -1,4 +1,4 @@
-#include "data/encoding.h"
+#include "base/encoding.h"
 
 #include <array>
 #include <cstdint>

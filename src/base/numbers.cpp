@@ -1,4 +1,4 @@
-#include "data/numbers.h"
+#include "base/numbers.h"
 
 #include <limits>
 
