@@ -34,67 +34,11 @@
 
 #include "data/files.h"
 #include "data/index_file.h"
-#include "ui/ui_services.h"
+#include "app/headless/headless_window.h"
 
 extern char** environ;
 
 namespace lex::bench {
-
-// A window that keeps only what the program reads back (the index field's text and caret,
-// the pane's visibility) and counts what would reach the user, so that a benchmark can check
-// that no error report or beep spoilt a measure. Everything else is ignored.
-class FenetreNulle final : public UiServices {
- public:
-  std::string txt;
-  Selection txtSel;
-  bool volet = false;
-  int bips = 0;
-  std::vector<std::string> boites;
-  std::string dernierMessage;
-
-  void SetLineText(const std::string& t) override {
-    txt = t;
-    txtSel = {};
-  }
-  std::string GetLineText() const override { return txt; }
-  void SetLineSelection(std::size_t d, std::size_t l) override { txtSel = {std::min(d, txt.size()), l}; }
-  Selection GetLineSelection() const override { return txtSel; }
-  void SetLineFont(const Police&) override {}
-  void SetLineEditable(bool) override {}
-  void SetPaneText(const std::string&) override {}
-  std::string GetPaneText() const override { return {}; }
-  void SetPaneSelection(std::size_t, std::size_t) override {}
-  Selection GetPaneSelection() const override { return {}; }
-  void SetPaneFont(const Police&) override {}
-  void SetPaneVisible(bool v) override { volet = v; }
-  bool IsPaneVisible() const override { return volet; }
-  void FocusLine() override {}
-  void FocusPane() override {}
-  void SetMessage(const std::string& t) override { dernierMessage = t; }
-  void SetTitle(const std::string&) override {}
-  void SetButtonCaption(Bouton, const std::string&) override {}
-  std::string GetButtonCaption(Bouton) const override { return {}; }
-  void SetButtonVisible(Bouton, bool) override {}
-  void SetMenuEnabled(MenuId, bool) override {}
-  Reponse MessageBox(const std::string& t, Boutons, Icone, const std::string&) override {
-    boites.push_back(t);
-    return Reponse::OK;
-  }
-  std::string InputBox(const std::string&, const std::string&, const std::string&) override { return {}; }
-  void Beep() override { ++bips; }
-  void ClipboardSetText(const std::string&) override {}
-  std::string ClipboardGetText() override { return {}; }
-  std::string OpenFileDialog(const std::string&, const std::string&, const std::string&,
-                             const std::string&) override {
-    return {};
-  }
-  std::string SaveFileDialog(const std::string&, const std::string&, const std::string&,
-                             const std::string&) override {
-    return {};
-  }
-  std::optional<Police> FontDialog(const Police&) override { return std::nullopt; }
-  void Quit() override {}
-};
 
 [[noreturn]] inline void Echec(const std::string& quoi) {
   std::fprintf(stderr, "bench: %s\n", quoi.c_str());

@@ -17,11 +17,11 @@
 #include "data/index_file.h"
 #include "random.h"
 #include "search/index_lookup.h"
-#include "ui/events.h"
-#include "ui/form.h"
-#include "ui/index_view.h"
-#include "ui/keys.h"
-#include "ui/paging.h"
+#include "controller/form.h"
+#include "controller/key_route.h"
+#include "controller/modes.h"
+#include "controller/paging.h"
+#include "view/keys.h"
 
 // Allocation accounting for the memory measure: the live bytes (as the allocator hands them
 // out, rounding included) and their peak while counting is on. Off, it costs one test.
@@ -85,9 +85,9 @@ int Memoire(const Options& o) {
   return 0;
 }
 
-void Verifie(const Form& f, const FenetreNulle& ui, const char* etape) {
-  if (!ui.boites.empty() || f.fenetre.Termine)
-    Echec(std::string(etape) + ": the program reported \"" + (ui.boites.empty() ? "" : ui.boites.front()) + "\"");
+void Verifie(const Form& f, const headless::HeadlessWindow& ui, const char* etape) {
+  if (!ui.boxes.empty() || f.fenetre.Termine)
+    Echec(std::string(etape) + ": the program reported \"" + (ui.boxes.empty() ? "" : ui.boxes.front()) + "\"");
 }
 
 // How many times a whole-file measure goes over a file of `octets` bytes: about 64 MB in all.
@@ -95,7 +95,7 @@ int Passes(std::int64_t octets) {
   return static_cast<int>(std::clamp<std::int64_t>((std::int64_t{64} << 20) / std::max<std::int64_t>(octets, 1), 1, 1000));
 }
 
-std::vector<std::string> Commande(std::vector<std::string> outil, const std::string& fichier, int fois) {
+std::vector<std::string> LanceCommande(std::vector<std::string> outil, const std::string& fichier, int fois) {
   for (int i = 0; i < fois; ++i) outil.push_back(fichier);
   return outil;
 }
@@ -171,8 +171,8 @@ int main(int argc, char** argv) {
   if (memoire) return Memoire(o);
 
   std::filesystem::create_directories(o.work);
-  FenetreNulle ui;
-  Form f(ui);
+  headless::HeadlessWindow ui;
+  Form f(ui, ui);
   f.dico.fichiers = Fichiers(o);
   f.dico.OrdreAlpha = true;
   const std::int64_t taille = LongueurFichier(o.dict);
@@ -188,7 +188,7 @@ int main(int argc, char** argv) {
   {
     const int passes = Passes(taille);
     const double demarrage = DemarrageOutil("wc");
-    const std::vector<std::string> wc = Commande({"wc", "-l"}, o.dict, passes);
+    const std::vector<std::string> wc = LanceCommande({"wc", "-l"}, o.dict, passes);
     TempsCommande(wc);
     ConstruireIndex(f.dico.fichiers, true, f.dico.TableIndex, f.dico.Lettres, bip);
     std::vector<double> nous, ref;
@@ -216,7 +216,7 @@ int main(int argc, char** argv) {
     const std::int64_t tailleIndex = LongueurFichier(f.dico.fichiers.index);
     const int passes = Passes(tailleIndex);
     const double demarrage = DemarrageOutil("cat");
-    const std::vector<std::string> cat = Commande({"cat"}, f.dico.fichiers.index, passes);
+    const std::vector<std::string> cat = LanceCommande({"cat"}, f.dico.fichiers.index, passes);
     auto litIndex = [&] {
       // Each pass replaces the table of the one before, as opening another dictionary does.
       IndexTable t;
@@ -267,7 +267,7 @@ int main(int argc, char** argv) {
   const std::int32_t n = table.NombreArticle();
   if (n < 1) Echec("empty dictionary");
   Hasard h(20240601);
-  f.fenetre.ModeCourant = 2;
+  EntrerIndex(f, 1, Annonce::Non);
 
   // A page shown.
   {
@@ -278,7 +278,7 @@ int main(int argc, char** argv) {
       f.fenetre.PremierIndexAffiche = premier;
       nous.push_back(Chrono([&] { InitTableIndex(f); }));
       ref.push_back(Chrono([&] { controle += PageBrute(table, premier).size(); }));
-      if (ui.txt.size() != PageBrute(table, f.fenetre.PremierIndexAffiche).size()) Echec("page: wrong text");
+      if (ui.txt.Text().size() != PageBrute(table, f.fenetre.PremierIndexAffiche).size()) Echec("page: wrong text");
     }
     Verifie(f, ui, "page");
     Garde(controle);
@@ -293,8 +293,8 @@ int main(int argc, char** argv) {
     for (int k = 0; k < 2000; ++k) {
       const auto i = static_cast<std::int32_t>(1 + h.Entier(static_cast<std::size_t>(n)));
       std::string article;
-      nous.push_back(Chrono([&] { article = LitDictio(f, i); }));
-      const Etendue e = EtendueArticle(f, i);
+      nous.push_back(Chrono([&] { article = f.liste.Lit(i); }));
+      const Etendue e = f.liste.EtendueArticle(i);
       std::string brut;
       ref.push_back(Chrono([&] { brut = LectureBrute(o.dict, e.debut, e.fin); }));
       const std::string_view tete = table.texte(i).substr(0, 20);
@@ -331,7 +331,7 @@ int main(int argc, char** argv) {
       if (forme == 2) mot += "S";
       if (forme == 3) mot.resize(1 + h.Entier(mot.size()));
       Trouve t;
-      nous.push_back(Chrono([&] { t = MeilleureEntree(f, mot); }));
+      nous.push_back(Chrono([&] { t = MeilleureEntree(f.liste, mot); }));
       entrees.push_back(mot);
       std::size_t j = 0;
       ref.push_back(Chrono([&] { j = chercheBrut(mot); }));
@@ -362,14 +362,14 @@ int main(int argc, char** argv) {
       const std::string_view texte = table.texte(i);
       if (texte.empty()) continue;
       ++mots;
-      EvToucheBas(f, Champ::Txt, Touche::Debut, 0);
+      ToucheBas(f, Champ::Txt, Touche::Debut, 0);
       for (std::size_t c = 0; c < std::min<std::size_t>(6, texte.size()); ++c) {
         const char lettre = texte[c];
         if (static_cast<unsigned char>(lettre) < 32) break;
-        nous.push_back(Chrono([&] { EvTouchePresse(f, Champ::Txt, lettre); }));
+        nous.push_back(Chrono([&] { Caractere(f, Champ::Txt, 0, UnicodeDeAnsi(lettre)); }));
         entrees.push_back(f.fenetre.DebutIndexCherche);
         // The letters typed begin an index line, so its entry must be found.
-        if (ui.dernierMessage.find("introuvable") != std::string::npos) {
+        if (ui.Message().find("introuvable") != std::string::npos) {
           if (introuvables++ == 0) premierIntrouvable = f.fenetre.DebutIndexCherche;
           break;
         }
@@ -396,7 +396,7 @@ int main(int argc, char** argv) {
       InitTableIndex(f);
       for (int p = 0; p < 5; ++p) {
         const std::int32_t suivant = f.fenetre.PremierIndexAffiche + kLignesPage;
-        nous.push_back(Chrono([&] { EvToucheBas(f, Champ::Txt, Touche::PageSuiv, 0); }));
+        nous.push_back(Chrono([&] { ToucheBas(f, Champ::Txt, Touche::PageSuiv, 0); }));
         if (suivant <= n) {
           if (f.fenetre.PremierIndexAffiche != suivant) Echec("page down: the page did not turn");
           ref.push_back(Chrono([&] { controle += PageBrute(table, suivant).size(); }));

@@ -16,8 +16,8 @@
 #include "data/files.h"
 #include "data/index_file.h"
 #include "search/string_list.h"
-#include "ui/form.h"
-#include "ui/index_view.h"
+#include "controller/form.h"
+#include "controller/modes.h"
 
 namespace {
 
@@ -40,20 +40,18 @@ void Ouvre(Form& f, const Options& o) {
   f.dico.OrdreAlpha = true;
   if (LireIndex(f.dico.fichiers, LongueurFichier(o.dict), f.dico.TableIndex, f.dico.Lettres) != EtatIndex::Charge)
     ConstruireIndex(f.dico.fichiers, true, f.dico.TableIndex, f.dico.Lettres, [] {});
-  f.fenetre.ModeCourant = 2;
+  EntrerIndex(f, 1, Annonce::Non);
 }
 
 // One rechercheChaine over the whole dictionary, as from its index page; the entries found.
-std::size_t Cherche(Form& f, FenetreNulle& ui, const std::string& chaine, bool respectCasse) {
-  f.recherche.ListeEnCours = false;
-  f.recherche.ListeTrouvee = {};
+std::size_t Cherche(Form& f, headless::HeadlessWindow& ui, const std::string& chaine, bool respectCasse) {
   f.recherche.ChaineRecherche = chaine;
   f.recherche.RespectCasse = respectCasse;
-  f.fenetre.ModeCourant = 2;
-  f.fenetre.PremierIndexAffiche = 1;
-  rechercheChaine(f);
-  if (!ui.boites.empty() || f.fenetre.Termine) Echec("rechercheChaine reported \"" + (ui.boites.empty() ? std::string() : ui.boites.front()) + "\"");
-  return f.recherche.ListeEnCours ? f.recherche.ListeTrouvee.size() : 0;
+  EntrerIndex(f, 1, Annonce::Non);
+  PartiesRecherche p{f, f.dlg, f.recherche};
+  rechercheChaine(p);
+  if (!ui.boxes.empty() || f.fenetre.Termine) Echec("rechercheChaine reported \"" + (ui.boxes.empty() ? std::string() : ui.boxes.front()) + "\"");
+  return f.liste.EstResultats() ? static_cast<std::size_t>(f.liste.Nombre()) : 0;
 }
 
 // Child process: a list of 100,000 entries (every n-th entry of the dictionary, or all of a
@@ -61,31 +59,30 @@ std::size_t Cherche(Form& f, FenetreNulle& ui, const std::string& chaine, bool r
 // about as many entries; prints the peak resident growth during that search, the new list's
 // bytes, its entries and those of the list searched.
 int Memoire(const Options& o) {
-  FenetreNulle ui;
-  Form f(ui);
+  headless::HeadlessWindow ui;
+  Form f(ui, ui);
   Ouvre(f, o);
   const std::int32_t n = f.dico.TableIndex.NombreArticle();
   const std::int32_t pas = std::max(1, n / 100000);
   std::vector<EntreeTrouvee> liste;
   for (std::int32_t i = 1; i <= n && liste.size() < 100000; i += pas) {
-    const Etendue e = EtendueArticle(f, i);
+    const Etendue e = f.liste.EtendueArticle(i);
     liste.push_back({i, static_cast<std::int32_t>(e.debut), static_cast<std::int32_t>(e.fin)});
   }
   const std::size_t depart = liste.size();
-  f.recherche.ListeTrouvee = std::move(liste);
-  f.recherche.ListeEnCours = true;
+  f.liste.MontreResultats(std::move(liste), "");
+  EntrerPage(f, 1, Annonce::Non);
   f.recherche.ChaineRecherche = "E";
   f.recherche.RespectCasse = false;
-  f.fenetre.PremierIndexAffiche = 1;
+  PartiesRecherche p{f, f.dlg, f.recherche};
   const std::int64_t avant = StatutOctets("VmRSS");
   // Resets the peak resident size, so that VmHWM is the search's own.
   std::ofstream("/proc/self/clear_refs") << "5";
-  rechercheChaine(f);
+  rechercheChaine(p);
   const std::int64_t pic = StatutOctets("VmHWM");
-  if (!ui.boites.empty()) Echec("memory: rechercheChaine reported \"" + ui.boites.front() + "\"");
+  if (!ui.boxes.empty()) Echec("memory: rechercheChaine reported \"" + ui.boxes.front() + "\"");
   std::printf("%lld %lld %zu %zu\n", static_cast<long long>(pic - avant),
-              static_cast<long long>(f.recherche.ListeTrouvee.capacity() * sizeof(EntreeTrouvee)),
-              f.recherche.ListeTrouvee.size(), depart);
+              static_cast<long long>(f.liste.OctetsResultats()), static_cast<std::size_t>(f.liste.Nombre()), depart);
   return 0;
 }
 
@@ -134,8 +131,8 @@ int main(int argc, char** argv) {
   const Options o = LireOptions(argc - (memoire ? 1 : 0), argv + (memoire ? 1 : 0));
   if (memoire) return Memoire(o);
 
-  FenetreNulle ui;
-  Form f(ui);
+  headless::HeadlessWindow ui;
+  Form f(ui, ui);
   Ouvre(f, o);
   const std::int64_t taille = LongueurFichier(o.dict);
   const std::int32_t articles = f.dico.TableIndex.NombreArticle();
@@ -167,7 +164,7 @@ int main(int argc, char** argv) {
     std::vector<double> nous, ref;
     for (int r = 0; r < o.reps; ++r) {
       ref.push_back(std::max(1e-7, TempsGrep(grep, sortie) - demarrage) / passes);
-      ui.bips = 0;
+      ui.beeps = 0;
       nous.push_back(Chrono([&] {
                        for (int p = 0; p < passes; ++p) trouves = Cherche(f, ui, c.chaine, c.respectCasse);
                      }) /
@@ -177,7 +174,7 @@ int main(int argc, char** argv) {
     Ligne(c.mesure, Ms(a), Ms(b) + " grep -c " + c.option, a / b, "<= 3x", a / b <= 3.0,
           "median of " + std::to_string(o.reps) + (passes > 1 ? ", " + std::to_string(passes) + " passes" : "") +
               "; \"" + c.chaine + "\" in " + std::to_string(trouves) + " articles" +
-              (plantes.empty() ? "" : " (planted " + plantes + ")") + "; " + std::to_string(ui.bips / passes) +
+              (plantes.empty() ? "" : " (planted " + plantes + ")") + "; " + std::to_string(ui.beeps / passes) +
               " beeps; grep start " + Ms(demarrage) + " taken off");
   }
 

@@ -2,20 +2,20 @@
 
 #include "catalogue/catalogue.h"
 #include "catalogue/config.h"
-#include "catalogue/startup.h"
-#include "fake_ui.h"
+#include "controller/startup.h"
+#include "app/headless/headless_window.h"
 #include "test_support.h"
-#include "ui/error_trap.h"
-#include "ui/events.h"
-#include "ui/form.h"
+#include "controller/error_trap.h"
+#include "controller/events.h"
+#include "controller/form.h"
 
 using namespace lex;
 
 namespace {
 struct Demarrage {
   test::DossierTemp d;
-  test::FakeUi ui;
-  Form f{ui};
+  headless::HeadlessWindow ui;
+  Form f{ui, ui};
   void Charge() { EvChargement(f, d.Dossier()); }
   void Ferme() { EvFermeture(f); }
 };
@@ -44,13 +44,13 @@ TEST(Catalogue, FirstStartWritesTheFactoryLinesAndShowsTheList) {
   // The widest name of the whole catalogue sets the column, history names included.
   const std::string largeur(std::string("Chronologie sciences et techniques").size() + 1 - 16, ' ');
   EXPECT_EQ(c[1].LigneListe, "ANGLAIS francais" + largeur + "A");
-  const std::string& txt = s.ui.txt;
+  const std::string& txt = s.ui.txt.Text();
   EXPECT_EQ(txt.rfind("        LISTE DES DICTIONNAIRES\r\n\r\nANGLAIS francais", 0), 0u);
   EXPECT_NE(txt.find("Histoire"), std::string::npos);
   EXPECT_EQ(txt.find("Monde"), std::string::npos);
   EXPECT_EQ(txt.substr(txt.size() - 36), "BLOC NOTE" + std::string(26, ' ') + "B");
-  EXPECT_EQ(s.ui.title, "LEX");
-  EXPECT_EQ(s.ui.DernierMessage(), " " + c[1].LigneListe);
+  EXPECT_EQ(s.ui.Title(), "LEX");
+  EXPECT_EQ(s.ui.messages.back(), " " + c[1].LigneListe);
 }
 
 TEST(Catalogue, ConfigurationLines) {
@@ -93,8 +93,8 @@ TEST(Catalogue, ConfigurationRoundTrip) {
   s.d.Ecrire("lex301.INI", " 7\r\n 2\r\n 1\r\n 1\r\n 1\r\n 1\r\n 1\r\n 1\r\n3,2\r\n 4\r\n/x/bloc.txt\r\nArial\r\n12\r\n 4 \r\n"
                            "1,TXT,H1, ,SansOrdreAlpha\r\n1,TXT,H2, ,SansOrdreAlpha\r\n9,abc,Ajout\xE9,J\r\n");
   s.Charge();
-  EXPECT_EQ(s.ui.police.nom, "Arial");
-  EXPECT_EQ(s.ui.police.taille, 12);
+  EXPECT_EQ(s.ui.Font().nom, "Arial");
+  EXPECT_EQ(s.ui.Font().taille, 12);
   EXPECT_EQ(s.f.catalogue.NombreDictio(), 13);
   s.Ferme();
   EXPECT_TRUE(s.ui.quit);
@@ -116,8 +116,8 @@ TEST(Catalogue, HistoryRowIsKeptAtStartAndAtExit) {
   t.d.Ecrire("lex301.INI", s.d.Lire("lex301.INI"));
   t.Charge();
   EXPECT_TRUE(t.f.fenetre.ListeHistoire);
-  EXPECT_EQ(t.ui.txt.rfind("LISTE DES DICTIONNAIRES sans ordre alphab\xE9tique\r\n\r\nChronologie histoire", 0), 0u);
-  EXPECT_EQ(t.ui.txtSel.debut, t.ui.txt.find("Chronologie histoire"));
+  EXPECT_EQ(t.ui.txt.Text().rfind("LISTE DES DICTIONNAIRES sans ordre alphab\xE9tique\r\n\r\nChronologie histoire", 0), 0u);
+  EXPECT_EQ(t.ui.txt.Caret(), t.ui.txt.Text().find("Chronologie histoire"));
   t.Ferme();
   EXPECT_EQ(LireLignes(t.d.Chemin("lex301.INI"))[13], " 9 ");
 }
@@ -131,8 +131,8 @@ TEST(Catalogue, BadConfigurationFilesStartAnyway) {
     s.d.Ecrire("lex301.INI", contenu);
     s.Charge();
     EXPECT_FALSE(s.ui.quit) << s.ui.boxes.size();
-    EXPECT_EQ(s.f.fenetre.ModeCourant, 1);
-    EXPECT_EQ(s.ui.police.taille, 10);
+    EXPECT_EQ(s.f.fenetre.ModeCourant(), Mode::ListeDictionnaires);
+    EXPECT_EQ(s.ui.Font().taille, 10);
     s.Ferme();
     EXPECT_TRUE(s.ui.quit);
   }

@@ -2,7 +2,7 @@
 
 #include "base/encoding.h"
 #include "data/folding.h"
-#include "ui/error_trap.h"
+#include "base/error.h"
 
 using namespace lex;
 

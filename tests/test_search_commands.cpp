@@ -2,13 +2,15 @@
 #include <gtest/gtest.h>
 
 #include "data/index_file.h"
-#include "fake_ui.h"
+#include "app/headless/headless_window.h"
 #include "test_support.h"
-#include "ui/events.h"
-#include "ui/form.h"
-#include "ui/index_view.h"
-#include "ui/line_helpers.h"
-#include "ui/paging.h"
+#include "controller/events.h"
+#include "controller/key_route.h"
+#include "controller/modes.h"
+#include "view/keys.h"
+#include "controller/form.h"
+#include "controller/line_helpers.h"
+#include "controller/paging.h"
 
 using namespace lex;
 using M = MenuId;
@@ -17,23 +19,22 @@ namespace {
 
 struct Banc {
   test::DossierTemp d;
-  test::FakeUi ui;
-  Form f{ui};
+  headless::HeadlessWindow ui;
+  Form f{ui, ui};
   explicit Banc(const std::string& octets = test::Fixture("search_mots.txt")) {
     d.Ecrire("d.txt", octets);
     f.dico.fichiers = {d.Chemin("d.txt"), d.Chemin("index.d"), d.Chemin("lettre.d")};
     ConstruireIndex(f.dico.fichiers, true, f.dico.TableIndex, f.dico.Lettres, [] {});
-    f.fenetre.ModeCourant = 2;
-    InitTableIndex(f);
+    EntrerIndex(f, 1, Annonce::Non);
   }
   void Menu(M id, const std::string& reponse = {}) {
-    if (!reponse.empty()) ui.saisies.push_back(reponse);
+    if (!reponse.empty()) ui.answers.push_back({headless::Answer::Kind::Input, Reponse::OK, reponse, 0});
     EvMenu(f, id);
     EXPECT_TRUE(ui.boxes.empty()) << ui.boxes.back();
   }
-  void Ligne(int n) { ui.txtSel = {DebutLigne(ui.txt, n), 0}; }
+  void Ligne(int n) { ui.txt.SetCaret(DebutLigne(ui.txt.Text(), n)); }
   std::string Dit() const {
-    const std::string& m = ui.DernierMessage();
+    const std::string& m = ui.messages.back();
     const auto d = m.find_first_not_of(' ');
     return d == std::string::npos ? "" : m.substr(d, m.find_last_not_of(' ') - d + 1);
   }
@@ -74,31 +75,18 @@ TEST(SearchCommands, BeginningOfIndex) {
 TEST(SearchCommands, AResultListIsNarrowedBySearchingItAgain) {
   Banc b;
   b.Menu(M::mnuRechercheChaine, "chat");
-  EXPECT_EQ(b.ui.txt, "chat\r\nchien\r\nhibou\r\nlion");
+  EXPECT_EQ(b.ui.txt.Text(), "chat\r\nchien\r\nhibou\r\nlion");
   b.Menu(M::mnuRechercheChaine, "noir");  // zèbre holds it too, but is not in the list
   EXPECT_EQ(b.Dit(), "1 index trouv\xE9");
-  EXPECT_EQ(b.ui.txt, "chat");
-  EXPECT_EQ(b.ui.title, "index contenant noir");
+  EXPECT_EQ(b.ui.txt.Text(), "chat");
+  EXPECT_EQ(b.ui.Title(), "index contenant noir");
   b.Menu(M::mnuRechercheChaine, "loup");  // nothing: the list stays
   EXPECT_EQ(b.Dit(), "introuvable");
-  EXPECT_EQ(b.ui.txt, "chat");
-  EvTouchePresse(b.f, Champ::Txt, 27);  // Escape: the dictionary's own index, on that entry
-  EXPECT_FALSE(b.f.recherche.ListeEnCours);
+  EXPECT_EQ(b.ui.txt.Text(), "chat");
+  RouteTouche(b.f, Champ::Txt, Touche::Echap, 0, 27);  // Escape: the dictionary's own index, on that entry
+  EXPECT_FALSE(b.f.liste.EstResultats());
   EXPECT_EQ(IndexAbsolu(b.f), 3);
-  EXPECT_EQ(NombreArticle(b.f), 11);
-}
-
-TEST(SearchCommands, AnArticleBeingEditedIsNeverLeft) {
-  Banc b;
-  b.Menu(M::mnuRechercheAvant, "chien");
-  b.f.fenetre.ModificationEnCours = true;
-  const std::size_t dits = b.ui.messages.size();
-  b.Menu(M::mnuRechercheSuivantTout);  // F3 does nothing at all
-  EXPECT_EQ(b.ui.messages.size(), dits);
-  b.Menu(M::mnuRechercheAvant, "loup");
-  EXPECT_EQ(b.Dit(), "introuvable");
-  b.Menu(M::mnuRecherchePrecedent);
-  EXPECT_EQ(b.f.fenetre.IndexCourant, 4);
+  EXPECT_EQ(b.f.liste.Nombre(), 11);
 }
 
 TEST(SearchCommands, EmptyHugeAndChangedDictionaries) {
@@ -114,7 +102,7 @@ TEST(SearchCommands, EmptyHugeAndChangedDictionaries) {
   const std::string grande(10000, 'q');
   Banc b("a\r\nrien\r\n\r\nb\r\n" + grande + "\r\n");
   b.Menu(M::mnuRechercheChaine, grande);
-  EXPECT_EQ(b.ui.txt, "b");
+  EXPECT_EQ(b.ui.txt.Text(), "b");
   b.Menu(M::mnuRechercheChaine, grande + "q");
   EXPECT_EQ(b.Dit(), "introuvable");
 

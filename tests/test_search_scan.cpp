@@ -1,5 +1,5 @@
 // How the definition searches see an article, the fixed-string finder, and the block scan of
-// the dictionary compared with reading every article with LitDictio.
+// the dictionary compared with reading every article with ListeAffichee::Lit.
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -10,10 +10,7 @@
 #include "search/article_scan.h"
 #include "search/article_text.h"
 #include "search/finder.h"
-#include "fake_ui.h"
 #include "test_support.h"
-#include "ui/form.h"
-#include "ui/index_view.h"
 
 using namespace lex;
 
@@ -77,25 +74,26 @@ namespace {
 // A small dictionary in a temporary folder, opened as the window opens one.
 struct Dico {
   test::DossierTemp d;
-  test::FakeUi ui;
-  Form f{ui};
+  DictionnaireOuvert dico;
+  ListeAffichee liste{dico};
+  int beeps = 0;
   explicit Dico(const std::string& octets) {
     d.Ecrire("d.txt", octets);
-    f.dico.fichiers = {d.Chemin("d.txt"), d.Chemin("index.d"), d.Chemin("lettre.d")};
-    ConstruireIndex(f.dico.fichiers, true, f.dico.TableIndex, f.dico.Lettres, [] {});
+    dico.fichiers = {d.Chemin("d.txt"), d.Chemin("index.d"), d.Chemin("lettre.d")};
+    ConstruireIndex(dico.fichiers, true, dico.TableIndex, dico.Lettres, [] {});
   }
-  // What reading every article with LitDictio finds, in the order of the scan.
+  // What reading every article with ListeAffichee::Lit finds, in the order of the scan.
   std::vector<std::int32_t> Attendu(std::int32_t premier, std::int32_t dernier, bool arriere, const std::string& aiguille,
                                     bool rc) {
     std::vector<std::int32_t> r;
     for (std::int32_t i = premier; arriere ? i >= dernier : i <= dernier; i += arriere ? -1 : 1)
-      if (OccurrenceArticle(LitDictio(f, i), aiguille, rc, false) != npos) r.push_back(i);
+      if (OccurrenceArticle(liste.Lit(i), aiguille, rc, false) != npos) r.push_back(i);
     return r;
   }
   std::vector<std::int32_t> Parcours(std::int32_t premier, std::int32_t dernier, bool arriere,
                                      const std::string& aiguille, bool rc, std::int64_t bloc, std::size_t arret = 0) {
     std::vector<std::int32_t> r;
-    ParcoursArticles(f, premier, dernier, arriere, aiguille, rc, [&](std::int32_t i) {
+    ParcoursArticles(liste, [this] { ++beeps; }, premier, dernier, arriere, aiguille, rc, [&](std::int32_t i) {
       r.push_back(i);
       return r.size() != arret;
     }, bloc);
@@ -136,7 +134,7 @@ TEST(SearchScan, FindsExactlyWhatReadingEachArticleFinds) {
       std::string autre = DictionnaireAuHasard(hasard);
       dico.d.Ecrire("d.txt", autre.substr(0, autre.size() / 2));
     }
-    const std::int32_t n = NombreArticle(dico.f);
+    const std::int32_t n = dico.liste.Nombre();
     for (const std::string& brute : aiguilles) {
       const bool rc = hasard() % 2;
       const std::string aiguille = AiguilleDefinitions(brute, rc);
@@ -157,15 +155,14 @@ TEST(SearchScan, AResultListIsScannedInItsOwnOrder) {
   std::mt19937 hasard(9);
   for (int essai = 0; essai < 60; ++essai) {
     Dico dico(DictionnaireAuHasard(hasard));
-    const IndexTable& t = dico.f.dico.TableIndex;
+    const IndexTable& t = dico.dico.TableIndex;
     std::vector<EntreeTrouvee> liste;
     for (std::int32_t i = 1; i <= t.NombreArticle(); ++i)
       if (hasard() % 3) liste.push_back({i, i == 1 ? 0 : t.position(i), t.position(i + 1)});
     if (liste.empty()) continue;
     if (essai % 2) std::shuffle(liste.begin(), liste.end(), hasard);  // entries out of file order
-    dico.f.recherche.ListeTrouvee = liste;
-    dico.f.recherche.ListeEnCours = true;
-    const std::int32_t n = NombreArticle(dico.f);
+    dico.liste.MontreResultats(liste, "");
+    const std::int32_t n = dico.liste.Nombre();
     const std::int64_t bloc = essai % 4 < 2 ? 16 : kTailleBloc;
     for (const std::string aiguille : {"A", "B A", " "}) {
       EXPECT_EQ(dico.Parcours(1, n, false, aiguille, false, bloc), dico.Attendu(1, n, false, aiguille, false));
@@ -179,12 +176,12 @@ TEST(SearchScan, BeepsOncePerThousandEntriesExamined) {
   for (int i = 0; i < 2500; ++i) s += "mot " + std::to_string(i) + "\r\ndef\r\n\r\n";
   Dico dico(s);
   dico.Parcours(1, 2500, false, "ABSENT", false, kTailleBloc);
-  EXPECT_EQ(dico.ui.beeps, 2);
-  dico.ui.beeps = 0;
+  EXPECT_EQ(dico.beeps, 2);
+  dico.beeps = 0;
   dico.Parcours(2500, 1, true, "ABSENT", false, kTailleBloc);
-  EXPECT_EQ(dico.ui.beeps, 2);
-  dico.ui.beeps = 0;
+  EXPECT_EQ(dico.beeps, 2);
+  dico.beeps = 0;
   // Stopping at entry 2000 from entry 1000 has examined 1001 entries.
   EXPECT_EQ(dico.Parcours(1000, 2500, false, "MOT 1999", false, kTailleBloc, 1), std::vector<std::int32_t>{2000});
-  EXPECT_EQ(dico.ui.beeps, 1);
+  EXPECT_EQ(dico.beeps, 1);
 }

@@ -2,30 +2,28 @@
 
 #include "catalogue/lists.h"
 #include "data/files.h"
-#include "fake_ui.h"
+#include "app/headless/headless_window.h"
 #include "test_support.h"
-#include "ui/error_trap.h"
-#include "ui/events.h"
-#include "ui/form.h"
-#include "ui/index_view.h"
-#include "ui/keys.h"
-#include "ui/menus.h"
-#include "ui/message.h"
+#include "controller/error_trap.h"
+#include "controller/events.h"
+#include "controller/form.h"
+#include "view/keys.h"
+#include "controller/menus.h"
+#include "controller/message.h"
 
 using namespace lex;
 
 TEST(Window, RepeatedMessagesAlwaysChangeTheLabel) {
-  test::FakeUi ui;
-  Form f(ui);
+  headless::HeadlessWindow ui;
+  Form f(ui, ui);
   for (int i = 0; i < 4; ++i) message(f, "introuvable");
   EXPECT_EQ(ui.messages, (std::vector<std::string>{" introuvable", " introuvable  ", " introuvable", " introuvable  "}));
   message(f, "   ");
   message(f, "");
   EXPECT_EQ(ui.messages[4], " ");
   EXPECT_EQ(ui.messages[5], " ");
-  std::string t = "mot  ";
-  message(f, t);
-  EXPECT_EQ(t, " mot");
+  message(f, "mot  ");
+  EXPECT_EQ(ui.messages.back(), " mot");
 }
 
 TEST(Window, MenuTableAsData) {
@@ -52,10 +50,10 @@ TEST(Window, PathHelpers) {
 }
 
 TEST(Window, ErrorTrapReportsTheInnermostLabelAndEndsTheProgram) {
-  test::FakeUi ui;
-  Form f(ui);
+  headless::HeadlessWindow ui;
+  Form f(ui, ui);
   bool termine = false;
-  RunTrapped(ui, termine, [&] {
+  RunTrapped(ui, ui, termine, [&] {
     ErrorTrap externe(" sur Dictionnaire");
     ErrorTrap interne(" sur LitDictio");
     Erreur(9);
@@ -65,14 +63,13 @@ TEST(Window, ErrorTrapReportsTheInnermostLabelAndEndsTheProgram) {
   EXPECT_TRUE(ui.quit && termine);
   // Once ended, nothing more runs.
   bool appele = false;
-  EXPECT_FALSE(RunTrapped(ui, termine, [&] { appele = true; }));
+  EXPECT_FALSE(RunTrapped(ui, ui, termine, [&] { appele = true; }));
   EXPECT_FALSE(appele);
   // A failed index build adds its diagnostic line.
-  test::FakeUi ui2;
-  Form g(ui2);
+  headless::HeadlessWindow ui2;
   bool fin = false;
   test::DossierTemp d;
-  RunTrapped(ui2, fin, [&] {
+  RunTrapped(ui2, ui2, fin, [&] {
     IndexTable t;
     TableLettre l;
     ConstruireIndex({d.Chemin("absent.txt"), d.Chemin("i"), d.Chemin("l")}, true, t, l, [] {});
@@ -83,10 +80,10 @@ TEST(Window, ErrorTrapReportsTheInnermostLabelAndEndsTheProgram) {
 }
 
 TEST(Window, ReadingAnArticleOutsideTheIndexIsAnError) {
-  test::FakeUi ui;
-  Form f(ui);
+  headless::HeadlessWindow ui;
+  Form f(ui, ui);
   bool termine = false;
-  RunTrapped(ui, termine, [&] { LitDictio(f, 1); });
+  RunTrapped(ui, ui, termine, [&] { f.liste.Lit(1); });
   ASSERT_EQ(ui.boxes.size(), 1u);
   EXPECT_EQ(ui.boxes[0], "9L'indice n'appartient pas \xE0 la s\xE9lection sur LitDictio");
 }

@@ -88,3 +88,14 @@ std::string MajusculesAnsi(std::string_view texte) {
 }
 
 }  // namespace lex
+
+namespace lex {
+
+char AnsiDeUnicode(char32_t c) { return VersAnsi(c); }
+
+char32_t UnicodeDeAnsi(char c) {
+  const auto b = static_cast<unsigned char>(c);
+  return b >= 0x80 && b < 0xA0 ? kC1[b - 0x80] : b;
+}
+
+}  // namespace lex

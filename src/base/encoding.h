@@ -18,3 +18,11 @@ char MajusculeAnsi(char c);
 std::string MajusculesAnsi(std::string_view texte);
 
 }  // namespace lex
+
+namespace lex {
+
+// One character between Unicode and Windows-1252; '?' when Windows-1252 has no such character.
+char AnsiDeUnicode(char32_t c);
+char32_t UnicodeDeAnsi(char c);
+
+}  // namespace lex

@@ -4,7 +4,7 @@
 
 #include "data/files.h"
 #include "base/numbers.h"
-#include "ui/error_trap.h"
+#include "base/error.h"
 
 namespace lex {
 

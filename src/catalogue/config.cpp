@@ -4,7 +4,6 @@
 
 #include "data/files.h"
 #include "base/numbers.h"
-#include "ui/form.h"
 
 namespace lex {
 
@@ -27,9 +26,8 @@ std::vector<std::string> LignesUsine(const std::string& dossierProgramme) {
   return l;
 }
 
-void LireConfig(Form& f) {
-  Catalogue& c = f.catalogue;
-  const std::vector<std::string> lignes = LireLignes(f.reglages.FichierConfig);
+void LireConfig(Catalogue& c, Reglages& r, std::int16_t& rangCourant) {
+  const std::vector<std::string> lignes = LireLignes(r.FichierConfig);
   for (std::size_t k = 0; k < lignes.size(); ++k) {
     const int n = static_cast<int>(k + 1);
     const std::string& l = lignes[k];
@@ -44,13 +42,13 @@ void LireConfig(Form& f) {
     } else if (n == nombre) {
       c[nombre].PositionDictio = Val(l);
     } else if (n == nombre + 1) {
-      f.reglages.FichierBlocNote = l;
+      r.FichierBlocNote = l;
     } else if (n == nombre + 2) {
-      f.reglages.PoliceNom = l;
+      r.PoliceNom = l;
     } else if (n == nombre + 3) {
-      f.reglages.PoliceTaille = l;
+      r.PoliceTaille = l;
     } else if (n == nombre + 4) {
-      f.fenetre.DictioCourant = static_cast<std::int16_t>(std::clamp(Val(l), -32768, 32767));
+      rangCourant = static_cast<std::int16_t>(std::clamp(Val(l), -32768, 32767));
     } else if (n > nombre + 4 && !l.empty() && c.NombreDictio() < 32000) {
       LireLigneCatalogue(c, l);
     }
@@ -59,20 +57,17 @@ void LireConfig(Form& f) {
   c.NombreHistoire = static_cast<std::int16_t>(std::min<int>(c.NombreHistoire, c.NombreDictio() - 10));
 }
 
-std::vector<std::string> LignesConfig(Form& f) {
-  Catalogue& c = f.catalogue;
+std::vector<std::string> LignesConfig(const Catalogue& c, const Reglages& r, bool histoire, int dictioCourant) {
   std::vector<std::string> l;
   for (int i = 1; i <= 8; ++i) l.push_back(NombreImprime(c[i].PositionDictio));
   l.push_back(std::to_string(c[9].PositionDictio) + "," + std::to_string(c.NombreHistoire));
   l.push_back(std::to_string(c[c.NombreDictio()].PositionDictio));
-  l.push_back(f.reglages.FichierBlocNote);
-  l.push_back(f.reglages.PoliceNom);
-  l.push_back(f.reglages.PoliceTaille);
+  l.push_back(r.FichierBlocNote);
+  l.push_back(r.PoliceNom);
+  l.push_back(r.PoliceTaille);
+  // The file keeps the row of the main list: added entries come after the history group.
   int rang = 9;
-  if (!f.fenetre.ListeHistoire) {
-    if (f.fenetre.DictioCourant > 9) f.fenetre.DictioCourant = static_cast<std::int16_t>(f.fenetre.DictioCourant - c.NombreHistoire);
-    rang = f.fenetre.DictioCourant;
-  }
+  if (!histoire) rang = dictioCourant > 9 ? dictioCourant - c.NombreHistoire : dictioCourant;
   l.push_back(NombreImprime(rang) + " ");
   for (int i = 10; i <= c.NombreDictio() - 1; ++i) l.push_back(LigneCatalogue(c[i]));
   return l;

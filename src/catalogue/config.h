@@ -4,15 +4,18 @@
 #include <string>
 #include <vector>
 
-namespace lex {
+#include "catalogue/catalogue.h"
+#include "catalogue/settings.h"
 
-struct Form;
+namespace lex {
 
 // The 26 lines a first start writes.
 std::vector<std::string> LignesUsine(const std::string& dossierProgramme);
-// Reads the file into the catalogue and the settings; short files leave the rest as it was.
-void LireConfig(Form& f);
-// The lines written back when leaving.
-std::vector<std::string> LignesConfig(Form& f);
+// Reads the configuration file into the catalogue, the settings and the current row of the
+// main list; short files leave the rest as it was.
+void LireConfig(Catalogue& c, Reglages& r, std::int16_t& rangCourant);
+// The lines written back when leaving, the user on catalogue entry `dictioCourant` (in the
+// history list when `histoire`).
+std::vector<std::string> LignesConfig(const Catalogue& c, const Reglages& r, bool histoire, int dictioCourant);
 
 }  // namespace lex

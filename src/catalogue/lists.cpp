@@ -1,58 +1,50 @@
 #include "catalogue/lists.h"
 
-#include "ui/form.h"
-#include "ui/line_helpers.h"
-#include "ui/message.h"
+#include <vector>
+
+#include "data/folding.h"
 
 namespace lex {
-namespace {
 
-// What every list display shares: mode 1, no result list, no typed beginning, the buttons.
-void EntreeListe(Form& f) {
-  f.fenetre.ModeCourant = 1;
-  f.recherche.ListeEnCours = false;
-  f.recherche.ListeTrouvee.clear();
-  f.fenetre.DebutIndexCherche.clear();
-  f.fenetre.DebutIndexTape.clear();
-  f.ui.SetButtonCaption(Bouton::CmdDic, "Index");
-  f.ui.SetButtonVisible(Bouton::CmdDivers, false);
-}
-
-}  // namespace
-
-void AfficheListeDictio(Form& f) {
-  if (f.fenetre.ListeHistoire) {
-    AfficheListeHistoire(f);
-    return;
-  }
-  const Catalogue& c = f.catalogue;
+std::string TexteListeDictio(const Catalogue& c) {
   std::string texte = "        LISTE DES DICTIONNAIRES\r\n\r\n";
   for (int i = 1; i <= 9; ++i) texte += c[i].LigneListe + "\r\n";
   for (int i = 10 + c.NombreHistoire; i <= c.NombreDictio() - 1; ++i) texte += c[i].LigneListe + "\r\n";
   texte += c[c.NombreDictio()].LigneListe;
-  MontreDansTxt(f, texte);
-  EntreeListe(f);
-  NumeroLigneDictio(f);
-  AfficheStatus(f);
+  return texte;
 }
 
-void AfficheListeHistoire(Form& f) {
-  f.fenetre.ListeHistoire = true;
-  const Catalogue& c = f.catalogue;
+std::string TexteListeHistoire(const Catalogue& c) {
   std::string texte = "LISTE DES DICTIONNAIRES sans ordre alphab\xE9tique\r\n\r\n";
   for (int i = 10; i <= 8 + c.NombreHistoire; ++i) texte += c[i].LigneListe + "\r\n";
   if (c.NombreHistoire >= 1) texte += c[9 + c.NombreHistoire].LigneListe;
-  MontreDansTxt(f, texte);
-  EntreeListe(f);
-  SurNumero(f, c[9].PositionDictio + 2);
-  AfficheStatus(f);
+  return texte;
 }
 
-void NumeroLigneDictio(Form& f) { SurNumero(f, LigneDeEntree(f.catalogue, f.fenetre.DictioCourant) + 2); }
-
-int RangSousCurseur(const Form& f) {
-  const int l = LigneCurseur(f);
-  return l < 3 ? 0 : l - 2;
+int RangCatalogue(const Catalogue& c, bool histoire, const std::string& tape, const std::string& plie) {
+  // The entry of each row of the list on screen.
+  std::vector<int> entrees;
+  if (histoire) {
+    for (int i = 10; i <= 9 + c.NombreHistoire; ++i) entrees.push_back(i);
+  } else {
+    for (int i = 1; i <= 9; ++i) entrees.push_back(i);
+    for (int i = 10 + c.NombreHistoire; i <= c.NombreDictio(); ++i) entrees.push_back(i);
+  }
+  // A call letter is compared as typed, so that É reaches "Écrivains" and E "ENCYCLOPEDIE".
+  if (tape.size() == 1) {
+    for (std::size_t r = 0; r < entrees.size(); ++r)
+      if (c[entrees[r]].LettreAppel == tape) return static_cast<int>(r);
+  }
+  std::size_t meilleur = 0;
+  std::size_t rang = 0;
+  for (std::size_t r = 0; r < entrees.size() && !plie.empty(); ++r) {
+    const std::size_t commun = PrefixeCommun(Sansaccent(c[entrees[r]].NomDictio), plie);
+    if (commun > meilleur) {
+      meilleur = commun;
+      rang = r;
+    }
+  }
+  return meilleur == 0 ? -1 : static_cast<int>(rang);
 }
 
 }  // namespace lex

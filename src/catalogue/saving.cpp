@@ -2,8 +2,7 @@
 
 #include "data/files.h"
 #include "data/folding.h"
-#include "ui/error_trap.h"
-#include "ui/form.h"
+#include "base/error.h"
 
 namespace lex {
 namespace {
@@ -33,14 +32,15 @@ bool RangeArticle(std::string_view texte, std::string_view cleEntiere, std::stri
   return tete >= cleEntiere;
 }
 
-void SauvegardeDic(Form& f, int numero) {
+void SauvegardeDic(Catalogue& c, const std::string& dossierDictio, int numero, DictionnaireOuvert* ouvert,
+                   int dictioOuvert) {
   ErrorTrap trap(" sur SauvegardeDic,");
-  CatalogueEntry& e = f.catalogue[numero];
-  const std::string nomfic = NomDictionnaire(f.catalogue, f.reglages.DossierDictio, numero);
+  CatalogueEntry& e = c[numero];
+  const std::string nomfic = NomDictionnaire(c, dossierDictio, numero);
   const std::string bak = nomfic + ".bak";
   // The open dictionary is read from the saved file from now on; another one saved while it
   // is open must not take its place.
-  if (numero == f.fenetre.DictioCourant && f.fenetre.ModeCourant != 1) f.dico.fichiers.dictio = nomfic;
+  if (ouvert && numero == dictioOuvert) ouvert->fichiers.dictio = nomfic;
   if (e.DicModifie) {
     if (FichierExistant(bak)) CopierFichier(bak, nomfic);
     e.DicModifie = false;
@@ -49,10 +49,19 @@ void SauvegardeDic(Form& f, int numero) {
   }
   if (e.GardeNumeros == 0) {
     for (const char* prefixe : {"ajout", "s\xE9lection"}) {
-      const std::string numeros = f.reglages.DossierDictio + prefixe + NomFichSeul(nomfic);
+      const std::string numeros = dossierDictio + prefixe + NomFichSeul(nomfic);
       if (FichierExistant(numeros)) SupprimerFichier(numeros);
     }
   }
+}
+
+void InscrireCommandesCatalogue(RegistreCommandes& registre, PartiesCatalogue p) {
+  registre.Inscrire(MenuId::mnuEnregistrer,
+                    {[p] {
+                       SauvegardeDic(p.catalogue, p.reglages.DossierDictio, p.dictioCourant, &p.dico, p.dictioCourant);
+                       p.ecran.message("enregistrer");
+                     },
+                     [p] { return DansUnDictionnaire(p.ecran.mode()); }});
 }
 
 }  // namespace lex

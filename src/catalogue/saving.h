@@ -4,16 +4,33 @@
 #include <string>
 #include <string_view>
 
-namespace lex {
+#include "catalogue/catalogue.h"
+#include "catalogue/settings.h"
+#include "data/open_dictionary.h"
+#include "view/commands.h"
+#include "view/screen.h"
 
-struct Form;
+namespace lex {
 
 // True when the new article (its two folded keys) goes before the existing index line.
 bool RangeArticle(std::string_view texte, std::string_view cleEntiere, std::string_view cleTete);
 // The head key of an index line: the folded part before its first "(", "[" or ","; empty
 // when it holds none of them.
 std::string CleTete(std::string_view ligne);
-// Saves catalogue entry `numero`.
-void SauvegardeDic(Form& f, int numero);
+// Saves catalogue entry `numero`; `ouvert`, when given, is the dictionary being read, which
+// is read from the saved file from then on if it is that entry.
+void SauvegardeDic(Catalogue& c, const std::string& dossierDictio, int numero, DictionnaireOuvert* ouvert,
+                   int dictioOuvert);
+
+// What the saving command works on.
+struct PartiesCatalogue {
+  Ecran& ecran;
+  Catalogue& catalogue;
+  const Reglages& reglages;
+  DictionnaireOuvert& dico;
+  // The catalogue entry of the dictionary the user is in.
+  const std::int16_t& dictioCourant;
+};
+void InscrireCommandesCatalogue(RegistreCommandes& registre, PartiesCatalogue p);
 
 }  // namespace lex

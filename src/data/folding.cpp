@@ -1,5 +1,6 @@
 #include "data/folding.h"
 
+#include <algorithm>
 #include <array>
 
 #include "base/encoding.h"
@@ -97,6 +98,13 @@ std::string EXTRAITMOT_separateur(std::string_view chaine, int position, std::st
 
 std::string EXTRAITMOT(std::string_view chaine, int position) {
   return EXTRAITMOT_separateur(chaine, position, " ");
+}
+
+std::size_t PrefixeCommun(std::string_view a, std::string_view b) {
+  const std::size_t n = std::min(a.size(), b.size());
+  std::size_t i = 0;
+  while (i < n && a[i] == b[i]) ++i;
+  return i;
 }
 
 }  // namespace lex

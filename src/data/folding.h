@@ -22,4 +22,7 @@ std::size_t SansaccentEpureVers(std::string_view texte, char* dest);
 std::string EXTRAITMOT_separateur(std::string_view chaine, int position, std::string_view separateur);
 std::string EXTRAITMOT(std::string_view chaine, int position);
 
+// How many characters two keys share from their start.
+std::size_t PrefixeCommun(std::string_view a, std::string_view b);
+
 }  // namespace lex

@@ -1,7 +1,12 @@
-// The dictionary being read: its files and its tables, replaced whenever another opens.
+// The dictionary being read, and the list its index page shows: the dictionary's own index,
+// or a result list of its entries (the entries that a search found, a report...).
 #pragma once
+#include <cstdint>
 #include <string>
+#include <string_view>
+#include <vector>
 
+#include "data/dictionary_file.h"
 #include "data/index_file.h"
 #include "data/index_table.h"
 
@@ -12,6 +17,44 @@ struct DictionnaireOuvert {
   IndexTable TableIndex;   // with CleIndex and the sentinel
   TableLettre Lettres;
   bool OrdreAlpha = true;
+};
+
+// One entry of a result list: the dictionary's own entry number (its text comes from the
+// dictionary's table), where its article starts and where the next one starts.
+struct EntreeTrouvee {
+  std::int32_t numero = 0;
+  std::int32_t debut = 0;
+  std::int32_t fin = 0;
+};
+
+// Entries are numbered from 1 in the list shown; outside 1..Nombre() is error 9.
+class ListeAffichee {
+ public:
+  explicit ListeAffichee(const DictionnaireOuvert& d) : dico_(d) {}
+
+  bool EstResultats() const { return resultats_; }
+  const std::string& Titre() const { return titre_; }
+  void MontreResultats(std::vector<EntreeTrouvee> entrees, std::string titre);
+  void MontreIndex();
+
+  std::int32_t Nombre() const;
+  std::string_view Texte(std::int32_t i) const;
+  // The dictionary's own number of entry i.
+  std::int32_t NumeroDictio(std::int32_t i) const;
+  // Where article i lies in the dictionary file.
+  Etendue EtendueArticle(std::int32_t i) const;
+  // The article of entry i.
+  std::string Lit(std::int32_t i) const;
+  const DictionnaireOuvert& Dictionnaire() const { return dico_; }
+  // What the result list holds in memory.
+  std::size_t OctetsResultats() const { return entrees_.capacity() * sizeof(EntreeTrouvee); }
+
+ private:
+  const EntreeTrouvee& Trouvee(std::int32_t i) const;
+  const DictionnaireOuvert& dico_;
+  bool resultats_ = false;
+  std::vector<EntreeTrouvee> entrees_;
+  std::string titre_;
 };
 
 }  // namespace lex

@@ -1,10 +1,12 @@
 // The notepad, opened from its row in the list or with Ctrl+B.
 #pragma once
 
+#include "view/commands.h"
+#include "view/screen.h"
+
 namespace lex {
 
-struct Form;
-
-void blocnote(Form& f);
+void blocnote(Ecran& ecran);
+void InscrireCommandesBlocNote(RegistreCommandes& registre, Ecran& ecran);
 
 }  // namespace lex

@@ -10,9 +10,7 @@
 #include "data/files.h"
 #include "search/article_text.h"
 #include "search/finder.h"
-#include "ui/error_trap.h"
-#include "ui/form.h"
-#include "ui/index_view.h"
+#include "base/error.h"
 
 namespace lex {
 namespace {
@@ -59,8 +57,10 @@ class LecteurBlocs {
 
 class Parcours {
  public:
-  Parcours(Form& f, std::string_view aiguille, bool respectCasse, std::int64_t tailleBloc)
-      : f_(f), aiguille_(aiguille), respectCasse_(respectCasse), lecteur_(f.dico.fichiers.dictio, tailleBloc),
+  Parcours(const ListeAffichee& liste, const std::function<void()>& bip, std::string_view aiguille, bool respectCasse,
+           std::int64_t tailleBloc)
+      : liste_(liste), bip_(bip), aiguille_(aiguille), respectCasse_(respectCasse),
+        lecteur_(liste.Dictionnaire().fichiers.dictio, tailleBloc),
         chercheur_(Segment(aiguille), !respectCasse) {
     const std::string_view segment = Segment(aiguille);
     debutSegment_ = static_cast<std::size_t>(segment.data() - aiguille.data());
@@ -125,12 +125,12 @@ class Parcours {
   // block, loading the block first if needed; returns how many.
   std::int32_t Suite(std::int32_t i, std::int32_t dernier, bool avant) {
     suite_.clear();
-    const Etendue e = EtendueArticle(f_, i);
+    const Etendue e = liste_.EtendueArticle(i);
     suite_.push_back(e);
     if (!Lisible(e)) return 1;
     if (!lecteur_.Contient(e)) lecteur_.Charge(e, avant);
     for (std::int32_t j = avant ? i + 1 : i - 1; avant ? j <= dernier : j >= dernier; avant ? ++j : --j) {
-      const Etendue s = EtendueArticle(f_, j);
+      const Etendue s = liste_.EtendueArticle(j);
       const bool colle = avant ? s.debut == suite_.back().fin : s.fin == suite_.back().debut;
       if (!colle || !Lisible(s) || !lecteur_.Contient(s)) break;
       suite_.push_back(s);
@@ -272,10 +272,11 @@ class Parcours {
   // The progress signal: one beep each time the count of entries examined reaches a thousand more.
   void Examines(std::int32_t nombre) {
     for (; examines_ < nombre; ++examines_)
-      if ((examines_ + 1) % 1000 == 0) f_.ui.Beep();
+      if ((examines_ + 1) % 1000 == 0) bip_();
   }
 
-  Form& f_;
+  const ListeAffichee& liste_;
+  const std::function<void()>& bip_;
   std::string_view aiguille_;
   bool respectCasse_;
   LecteurBlocs lecteur_;
@@ -289,18 +290,19 @@ class Parcours {
 
 }  // namespace
 
-void ParcoursArticles(Form& f, std::int32_t premier, std::int32_t dernier, bool arriere, std::string_view aiguille,
-                      bool respectCasse, const std::function<bool(std::int32_t)>& trouve, std::int64_t tailleBloc) {
-  const std::int32_t n = NombreArticle(f);
+void ParcoursArticles(const ListeAffichee& liste, const std::function<void()>& bip, std::int32_t premier,
+                      std::int32_t dernier, bool arriere, std::string_view aiguille, bool respectCasse,
+                      const std::function<bool(std::int32_t)>& trouve, std::int64_t tailleBloc) {
+  const std::int32_t n = liste.Nombre();
   if (aiguille.empty()) return;
   if (!arriere) {
     premier = std::max(premier, 1);
     dernier = std::min(dernier, n);
-    if (premier <= dernier) Parcours(f, aiguille, respectCasse, tailleBloc).Avant(premier, dernier, trouve);
+    if (premier <= dernier) Parcours(liste, bip, aiguille, respectCasse, tailleBloc).Avant(premier, dernier, trouve);
   } else {
     premier = std::min(premier, n);
     dernier = std::max(dernier, 1);
-    if (premier >= dernier) Parcours(f, aiguille, respectCasse, tailleBloc).Arriere(premier, dernier, trouve);
+    if (premier >= dernier) Parcours(liste, bip, aiguille, respectCasse, tailleBloc).Arriere(premier, dernier, trouve);
   }
 }
 

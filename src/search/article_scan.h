@@ -7,19 +7,20 @@
 #include <functional>
 #include <string_view>
 
+#include "data/open_dictionary.h"
+
 namespace lex {
 
-struct Form;
-
-// Examines the entries of the shown list from `premier` up to `dernier` inclusive (down to it
+// Examines the entries of `liste` from `premier` up to `dernier` inclusive (down to it
 // when `arriere`), and calls `trouve(i)` for each entry whose
 // article holds `aiguille` (prepared by AiguilleDefinitions) as OccurrenceArticle finds it;
-// `trouve` returns false to end the scan. Beeps once every 1000 entries examined. Entries
+// `trouve` returns false to end the scan. Calls `bip` once every 1000 entries examined, so the user hears a long scan go on. Entries
 // outside the list are not examined. The file is read `tailleBloc` bytes at a time (more for a
 // longer article).
 inline constexpr std::int64_t kTailleBloc = 1 << 20;
-void ParcoursArticles(Form& f, std::int32_t premier, std::int32_t dernier, bool arriere, std::string_view aiguille,
-                      bool respectCasse, const std::function<bool(std::int32_t)>& trouve,
+void ParcoursArticles(const ListeAffichee& liste, const std::function<void()>& bip, std::int32_t premier,
+                      std::int32_t dernier, bool arriere, std::string_view aiguille, bool respectCasse,
+                      const std::function<bool(std::int32_t)>& trouve,
                       std::int64_t tailleBloc = kTailleBloc);
 
 }  // namespace lex

@@ -1,7 +1,7 @@
 #include "search/article_text.h"
 
 #include "base/encoding.h"
-#include "ui/error_trap.h"
+#include "base/error.h"
 
 namespace lex {
 

@@ -1,4 +1,4 @@
-#include "ui/commands.h"
+#include "search/commands.h"
 
 #include "search/definition_search.h"
 #include "search/index_search.h"
@@ -6,16 +6,18 @@
 
 namespace lex {
 
-// The search commands of the Recherche menu.
-void InscrireCommandesRecherche(TableCommandes& t) {
-  t[MenuId::mnuRechercheindex] = mnuRechercheindex;
-  t[MenuId::mnuRechercheDansIndex] = mnuRechercheDansIndex;
-  t[MenuId::mnuRechercheAvant] = mnuRechercheAvant;
-  t[MenuId::mnuRechercheChaine] = mnuRechercheChaine;
-  t[MenuId::mnuRechercheBrute] = mnuRechercheBrute;
-  t[MenuId::mnuRecherchePrecedent] = mnuRecherchePrecedent;
-  t[MenuId::mnuRechercheSuivant] = mnuRechercheSuivant;
-  t[MenuId::mnuRechercheSuivantTout] = mnuRechercheSuivantTout;
+void InscrireCommandesRecherche(RegistreCommandes& registre, PartiesRecherche p) {
+  const auto inscrire = [&registre, p](MenuId id, void (*executer)(PartiesRecherche&)) {
+    registre.Inscrire(id, [p, executer]() mutable { executer(p); });
+  };
+  inscrire(MenuId::mnuRechercheindex, mnuRechercheindex);
+  inscrire(MenuId::mnuRechercheDansIndex, mnuRechercheDansIndex);
+  inscrire(MenuId::mnuRechercheAvant, mnuRechercheAvant);
+  inscrire(MenuId::mnuRechercheChaine, mnuRechercheChaine);
+  inscrire(MenuId::mnuRechercheBrute, mnuRechercheBrute);
+  inscrire(MenuId::mnuRecherchePrecedent, mnuRecherchePrecedent);
+  inscrire(MenuId::mnuRechercheSuivant, mnuRechercheSuivant);
+  inscrire(MenuId::mnuRechercheSuivantTout, mnuRechercheSuivantTout);
 }
 
 }  // namespace lex

@@ -2,71 +2,58 @@
 
 #include <string>
 
+#include "base/error.h"
 #include "data/folding.h"
 #include "search/article_search.h"
 #include "search/index_search.h"
 #include "search/next_article.h"
-#include "ui/error_trap.h"
-#include "ui/form.h"
-#include "ui/message.h"
-#include "ui/navigation.h"
 
 namespace lex {
 
-void mnuRechercheAvant(Form& f) {
+void mnuRechercheAvant(PartiesRecherche& p) {
   ErrorTrap trap(" sur RechercheAvant_Click");
-  EtatRecherche& r = f.recherche;
-  const std::string reponse = f.ui.InputBox(r.RespectCasse ? "Recherche avec respect de la casse" : "Recherche",
-                                            "Dictionnaires", r.ChaineRecherche);
+  EtatRecherche& r = p.etat;
+  const std::string reponse = p.dialogues.InputBox(
+      r.RespectCasse ? "Recherche avec respect de la casse" : "Recherche", "Dictionnaires", r.ChaineRecherche);
   if (reponse.empty()) return;
   r.RechercheDansIndex = false;
   r.ChaineRecherche = reponse;
-  switch (f.fenetre.ModeCourant) {
-    case 2: rechercheChaineSuivant(f); break;
-    case 3: rechercher(f, DebutSuivant(f), true); break;
-    default:
-      // In the list of dictionaries the string names a dictionary.
-      f.fenetre.DebutIndexCherche = Sansaccent(reponse);
-      f.fenetre.DebutIndexTape.clear();
-      PositionIndex(f);
-  }
+  const Mode m = p.ecran.mode();
+  if (SurUneListe(m)) rechercheChaineSuivant(p);
+  else if (m == Mode::Article) rechercher(p, DebutSuivant(p), true);
+  // In the list of dictionaries the string names a dictionary.
+  else if (SurLeCatalogue(m)) p.ecran.ChercheDebut(Sansaccent(reponse));
 }
 
-void mnuRechercheBrute(Form& f) {
-  EtatRecherche& r = f.recherche;
+void mnuRechercheBrute(PartiesRecherche& p) {
+  EtatRecherche& r = p.etat;
   r.RespectCasse = !r.RespectCasse;
-  message(f, r.RespectCasse ? "recherche avec respect de la casse" : "recherche sur chaine mise en majuscule");
+  p.ecran.message(r.RespectCasse ? "recherche avec respect de la casse" : "recherche sur chaine mise en majuscule");
 }
 
-void mnuRechercheSuivant(Form& f) {
-  switch (f.fenetre.ModeCourant) {
-    case 2:
-      if (f.recherche.RechercheDansIndex) RechercheDansIndexAvant(f);
-      else rechercheChaineSuivant(f);
-      break;
-    case 3: rechercher(f, DebutSuivant(f), false); break;
-    default: break;
+void mnuRechercheSuivant(PartiesRecherche& p) {
+  const Mode m = p.ecran.mode();
+  if (SurUneListe(m)) {
+    if (p.etat.RechercheDansIndex) RechercheDansIndexAvant(p);
+    else rechercheChaineSuivant(p);
+  } else if (m == Mode::Article) {
+    rechercher(p, DebutSuivant(p), false);
   }
 }
 
-void mnuRechercheSuivantTout(Form& f) {
-  switch (f.fenetre.ModeCourant) {
-    case 2: rechercheChaineSuivant(f); break;
-    case 3:
-      if (!f.fenetre.ModificationEnCours) rechercher(f, DebutSuivant(f), true);
-      break;
-    default: break;
-  }
+void mnuRechercheSuivantTout(PartiesRecherche& p) {
+  const Mode m = p.ecran.mode();
+  if (SurUneListe(m)) rechercheChaineSuivant(p);
+  else if (m == Mode::Article) rechercher(p, DebutSuivant(p), true);
 }
 
-void mnuRecherchePrecedent(Form& f) {
-  switch (f.fenetre.ModeCourant) {
-    case 2:
-      if (f.recherche.RechercheDansIndex) RechercheDansIndexArriere(f);
-      else rechercheChaineArriere(f);
-      break;
-    case 3: AppelRechercheArriere(f); break;
-    default: break;
+void mnuRecherchePrecedent(PartiesRecherche& p) {
+  const Mode m = p.ecran.mode();
+  if (SurUneListe(m)) {
+    if (p.etat.RechercheDansIndex) RechercheDansIndexArriere(p);
+    else rechercheChaineArriere(p);
+  } else if (m == Mode::Article) {
+    AppelRechercheArriere(p);
   }
 }
 

@@ -2,14 +2,14 @@
 // the three repeat keys (F3 through all articles, Ctrl+F3 in the article, Shift+F3 backwards).
 #pragma once
 
+#include "search/search_state.h"
+
 namespace lex {
 
-struct Form;
-
-void mnuRechercheAvant(Form& f);
-void mnuRechercheBrute(Form& f);
-void mnuRechercheSuivant(Form& f);
-void mnuRechercheSuivantTout(Form& f);
-void mnuRecherchePrecedent(Form& f);
+void mnuRechercheAvant(PartiesRecherche& p);
+void mnuRechercheBrute(PartiesRecherche& p);
+void mnuRechercheSuivant(PartiesRecherche& p);
+void mnuRechercheSuivantTout(PartiesRecherche& p);
+void mnuRecherchePrecedent(PartiesRecherche& p);
 
 }  // namespace lex

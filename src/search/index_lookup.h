@@ -1,12 +1,12 @@
-// Finding an entry of the shown list from a folded beginning of index.
+// Finding an entry of a list from a folded beginning of index.
 #pragma once
 #include <cstdint>
 #include <string>
 #include <string_view>
 
-namespace lex {
+#include "data/open_dictionary.h"
 
-struct Form;
+namespace lex {
 
 struct Trouve {
   std::int32_t numero = 1;  // 1 when nothing shared a character
@@ -16,11 +16,9 @@ struct Trouve {
 // The entry whose key equals `plie`, or else the first one sharing the longest beginning with
 // it. In a dictionary kept in alphabetical order the scan starts from the letter table and
 // stops once the keys have passed `plie` for good.
-Trouve MeilleureEntree(const Form& f, std::string_view plie);
+Trouve MeilleureEntree(const ListeAffichee& liste, std::string_view plie);
 // The first entry whose key begins with `prefixe`, or 0.
-std::int32_t PremierCommencantPar(const Form& f, std::string_view prefixe);
-// In a list of dictionaries: the row of the typed call letter, else of the typed name.
-void PositionCatalogue(Form& f);
+std::int32_t PremierCommencantPar(const ListeAffichee& liste, std::string_view prefixe);
 // The word at (or just before) 0-based `position`: letters, accented ones included.
 std::string MotSousCurseur(const std::string& texte, std::size_t position);
 

@@ -3,96 +3,72 @@
 #include <cstdint>
 #include <string>
 
+#include "base/error.h"
 #include "data/folding.h"
 #include "search/index_lookup.h"
-#include "ui/error_trap.h"
-#include "ui/form.h"
-#include "ui/index_view.h"
-#include "ui/line_helpers.h"
-#include "ui/message.h"
-#include "ui/navigation.h"
-#include "ui/paging.h"
 
 namespace lex {
 namespace {
 
-// The page starting at entry i, the caret on it, its line announced.
-void MontrePage(Form& f, std::int32_t i) {
-  f.fenetre.PremierIndexAffiche = i;
-  InitTableIndex(f);
-  AnnonceLigneCourante(f);
-}
-
-void ChercheDansIndex(Form& f, bool arriere) {
-  const EtatRecherche& r = f.recherche;
+void ChercheDansIndex(PartiesRecherche& p, bool arriere) {
+  const EtatRecherche& r = p.etat;
+  const ListeAffichee& liste = p.ecran.Liste();
   const std::string aiguille = r.RespectCasse ? r.ChaineRecherche : SansAccentSeul(r.ChaineRecherche);
-  const std::int32_t n = NombreArticle(f);
+  const std::int32_t n = liste.Nombre();
   const std::int32_t pas = arriere ? -1 : 1;
   if (!aiguille.empty()) {
-    for (std::int32_t i = IndexAbsolu(f) + pas; i >= 1 && i <= n; i += pas) {
-      const std::string_view texte = TexteIndex(f, i);
+    for (std::int32_t i = p.ecran.EntreeCourante() + pas; i >= 1 && i <= n; i += pas) {
+      const std::string_view texte = liste.Texte(i);
       const bool trouve = r.RespectCasse ? texte.find(aiguille) != std::string_view::npos
                                          : SansAccentSeul(texte).find(aiguille) != std::string::npos;
       if (trouve) {
-        MontrePage(f, i);
+        p.ecran.MontrePage(i);
         return;
       }
     }
   }
-  message(f, "introuvable");
+  p.ecran.message("introuvable");
 }
 
 }  // namespace
 
-void mnuRechercheindex(Form& f) {
+void mnuRechercheindex(PartiesRecherche& p) {
   ErrorTrap trap(" sur RechercheIndex_click");
-  EtatFenetre& w = f.fenetre;
-  if (w.ModeCourant == 1) {
-    const std::string reponse = f.ui.InputBox("Dictionnaire", "Dictionnaires", "");
-    if (reponse.empty()) return;
-    w.DebutIndexCherche = Sansaccent(reponse);
-    w.DebutIndexTape.clear();
-    PositionIndex(f);
+  const Mode m = p.ecran.mode();
+  if (SurLeCatalogue(m)) {
+    const std::string reponse = p.dialogues.InputBox("Dictionnaire", "Dictionnaires", "");
+    if (!reponse.empty()) p.ecran.ChercheDebut(Sansaccent(reponse));
     return;
   }
-  const std::string reponse = f.ui.InputBox("D\xE9" "but de l'index", "Dictionnaires", "");
+  if (!DansUnDictionnaire(m)) return;
+  const std::string reponse = p.dialogues.InputBox("D\xE9" "but de l'index", "Dictionnaires", "");
   if (reponse.empty()) return;
-  w.DebutIndexCherche = Sansaccent(reponse);
-  if (w.DebutIndexCherche.empty()) {
-    message(f, "index invalide");
+  const std::string plie = Sansaccent(reponse);
+  if (plie.empty()) {
+    p.ecran.message("index invalide");
     return;
   }
-  if (w.ModeCourant == 3) {
-    w.ModeCourant = 2;
-    f.ui.SetButtonCaption(Bouton::CmdDic, "D\xE9" "finition");
-    f.ui.SetButtonCaption(Bouton::CmdDivers, "Liste");
-    f.ui.SetButtonVisible(Bouton::CmdDivers, true);
-  }
-  const Trouve t = MeilleureEntree(f, w.DebutIndexCherche);
-  w.PremierIndexAffiche = t.numero;
-  InitTableIndex(f);
-  f.ui.FocusLine();
-  AfficheStatus(f);
+  const Trouve t = MeilleureEntree(p.ecran.Liste(), plie);
   // An exact entry speaks for itself as the page's first line; a nearest one is announced.
-  if (!t.exact) AnnonceLigneCourante(f);
+  p.ecran.RetourPage(t.numero, !t.exact, plie);
 }
 
-void mnuRechercheDansIndex(Form& f) {
-  EtatRecherche& r = f.recherche;
-  if (f.fenetre.ModeCourant != 2) {
-    message(f, "mettez vous sur les index");
+void mnuRechercheDansIndex(PartiesRecherche& p) {
+  EtatRecherche& r = p.etat;
+  if (!SurUneListe(p.ecran.mode())) {
+    p.ecran.message("mettez vous sur les index");
     return;
   }
-  const std::string reponse = f.ui.InputBox(
+  const std::string reponse = p.dialogues.InputBox(
       r.RespectCasse ? "Chaine avec respect de la casse dans index" : "Chaine dans index", "Dictionnaires",
       r.ChaineRecherche);
   if (reponse.empty()) return;
   r.ChaineRecherche = reponse;
   r.RechercheDansIndex = true;
-  RechercheDansIndexAvant(f);
+  RechercheDansIndexAvant(p);
 }
 
-void RechercheDansIndexAvant(Form& f) { ChercheDansIndex(f, false); }
-void RechercheDansIndexArriere(Form& f) { ChercheDansIndex(f, true); }
+void RechercheDansIndexAvant(PartiesRecherche& p) { ChercheDansIndex(p, false); }
+void RechercheDansIndexArriere(PartiesRecherche& p) { ChercheDansIndex(p, true); }
 
 }  // namespace lex

@@ -2,13 +2,13 @@
 // index, and a string anywhere in the index lines, forwards and backwards.
 #pragma once
 
+#include "search/search_state.h"
+
 namespace lex {
 
-struct Form;
-
-void mnuRechercheindex(Form& f);
-void mnuRechercheDansIndex(Form& f);
-void RechercheDansIndexAvant(Form& f);
-void RechercheDansIndexArriere(Form& f);
+void mnuRechercheindex(PartiesRecherche& p);
+void mnuRechercheDansIndex(PartiesRecherche& p);
+void RechercheDansIndexAvant(PartiesRecherche& p);
+void RechercheDansIndexArriere(PartiesRecherche& p);
 
 }  // namespace lex

@@ -3,57 +3,48 @@
 #include <cstdint>
 #include <string>
 
+#include "base/error.h"
 #include "search/article_scan.h"
 #include "search/article_text.h"
-#include "ui/article_view.h"
-#include "ui/error_trap.h"
-#include "ui/form.h"
-#include "ui/index_view.h"
-#include "ui/line_helpers.h"
-#include "ui/message.h"
 
 namespace lex {
 namespace {
 
-// The entry the user is on: the article being read, or the index line under the caret.
-std::int32_t EntreeCourante(const Form& f) {
-  return f.fenetre.ModeCourant == 3 ? f.fenetre.IndexCourant : IndexAbsolu(f);
-}
-
-void ChercheArticle(Form& f, std::int32_t premier, std::int32_t dernier, bool arriere) {
-  const EtatRecherche& r = f.recherche;
+void ChercheArticle(PartiesRecherche& p, std::int32_t premier, std::int32_t dernier, bool arriere) {
+  const EtatRecherche& r = p.etat;
+  const ListeAffichee& liste = p.ecran.Liste();
   const std::string aiguille = AiguilleDefinitions(r.ChaineRecherche, r.RespectCasse);
   std::int32_t trouve = 0;
-  ParcoursArticles(f, premier, dernier, arriere, aiguille, r.RespectCasse, [&trouve](std::int32_t k) {
-    trouve = k;
-    return false;
-  });
+  ParcoursArticles(
+      liste, [&p] { p.ecran.Beep(); }, premier, dernier, arriere, aiguille, r.RespectCasse,
+      [&trouve](std::int32_t k) {
+        trouve = k;
+        return false;
+      });
   if (trouve == 0) {
-    message(f, "introuvable");
+    p.ecran.message("introuvable");
     return;
   }
-  const std::string article = LitDictio(f, trouve);
+  const std::string article = liste.Lit(trouve);
   std::size_t position = OccurrenceArticle(article, aiguille, r.RespectCasse, arriere);
   // The file may have changed between the scan and this read.
   if (position == std::string::npos) position = 0;
-  f.fenetre.PremierIndexAffiche = trouve;
-  MontreArticle(f, trouve, article, position);
-  std::string annonce = "nouveau index " + ExtraitIndexDictio(article);
-  message(f, annonce);
+  p.ecran.MontreArticle(trouve, article, position);
+  p.ecran.message("nouveau index " + ExtraitIndexDictio(article));
 }
 
 }  // namespace
 
-void rechercheChaineSuivant(Form& f) {
+void rechercheChaineSuivant(PartiesRecherche& p) {
   ErrorTrap trap(" sur rechercheChaineSuivante");
-  if (f.fenetre.ModeCourant == 1) return;
-  ChercheArticle(f, EntreeCourante(f) + 1, NombreArticle(f), false);
+  if (!DansUnDictionnaire(p.ecran.mode())) return;
+  ChercheArticle(p, p.ecran.EntreeCourante() + 1, p.ecran.Liste().Nombre(), false);
 }
 
-void rechercheChaineArriere(Form& f) {
+void rechercheChaineArriere(PartiesRecherche& p) {
   ErrorTrap trap(" sur rechercheChaineArriere");
-  if (f.fenetre.ModeCourant == 1) return;
-  ChercheArticle(f, EntreeCourante(f) - 1, 1, true);
+  if (!DansUnDictionnaire(p.ecran.mode())) return;
+  ChercheArticle(p, p.ecran.EntreeCourante() - 1, 1, true);
 }
 
 }  // namespace lex

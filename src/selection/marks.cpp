@@ -1,7 +1,8 @@
 #include "selection/marks.h"
 
-#include "ui/error_trap.h"
-#include "ui/form.h"
+#include <algorithm>
+
+#include "base/error.h"
 
 namespace lex {
 namespace {
@@ -21,17 +22,23 @@ std::string AvecMarqueAjout(std::string_view texte) {
   return std::string(texte.substr(0, std::min(texte.size(), kLongueurMarquee))) + std::string(kAjoute);
 }
 
-void TestAjout(Form& f) {
+namespace {
+const std::vector<std::int32_t>& Numeros(const std::map<int, std::vector<std::int32_t>>& table, int dictio) {
+  static const std::vector<std::int32_t> aucun;
+  auto it = table.find(dictio);
+  return it == table.end() ? aucun : it->second;
+}
+}  // namespace
+
+void TestAjout(IndexTable& t, const Selections& s, int dictio) {
   ErrorTrap trap(" sur TestAjout");
-  IndexTable& t = f.dico.TableIndex;
-  for (std::int32_t n : f.selections.TableAjout[f.fenetre.DictioCourant])
+  for (std::int32_t n : Numeros(s.TableAjout, dictio))
     if (n >= 1 && n <= t.NombreArticle()) t.ChangerTexte(n, AvecMarqueAjout(t.texte(n)));
 }
 
-void TestSelection(Form& f) {
+void TestSelection(IndexTable& t, const Selections& s, int dictio) {
   ErrorTrap trap(" sur TestSelection");
-  IndexTable& t = f.dico.TableIndex;
-  for (std::int32_t n : f.selections.TableSelection[f.fenetre.DictioCourant])
+  for (std::int32_t n : Numeros(s.TableSelection, dictio))
     if (n >= 1 && n <= t.NombreArticle()) t.ChangerTexte(n, AvecMarqueSelection(t.texte(n)));
 }
 

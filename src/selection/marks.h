@@ -4,16 +4,17 @@
 #include <string>
 #include <string_view>
 
-namespace lex {
+#include "data/index_table.h"
+#include "selection/selections.h"
 
-struct Form;
+namespace lex {
 
 // The index line carrying the selection mark.
 std::string AvecMarqueSelection(std::string_view texte);
 // The index line carrying the addition mark.
 std::string AvecMarqueAjout(std::string_view texte);
-// Put the marks of the open dictionary back after its index was (re)loaded.
-void TestAjout(Form& f);
-void TestSelection(Form& f);
+// Put the marks of catalogue entry `dictio` back on its index table after it was (re)loaded.
+void TestAjout(IndexTable& t, const Selections& s, int dictio);
+void TestSelection(IndexTable& t, const Selections& s, int dictio);
 
 }  // namespace lex

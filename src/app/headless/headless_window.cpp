@@ -1,6 +1,7 @@
 #include "app/headless/headless_window.h"
 
 #include <cstdio>
+#include <streambuf>
 
 #include "base/encoding.h"
 
@@ -59,6 +60,35 @@ bool Permise(Boutons b, Reponse r) {
 }
 }  // namespace
 
+namespace {
+// Where the events of a window without an output go.
+class SansSortie final : public std::streambuf {
+ protected:
+  int overflow(int c) override { return c; }
+};
+std::ostream& Nulle() {
+  static SansSortie tampon;
+  static std::ostream sortie(&tampon);
+  return sortie;
+}
+}  // namespace
+
+HeadlessWindow::HeadlessWindow(std::ostream& out) : out_(out) {
+  txt.lignesPage = rtb.lignesPage = kLignesVisibles;
+}
+HeadlessWindow::HeadlessWindow() : HeadlessWindow(Nulle()) {}
+
+void HeadlessWindow::SetPaneVisible(bool v) {
+  rtbVisible_ = v;
+  // A hidden control loses the focus to the field beside it.
+  if (!v) rtbFocus_ = false;
+}
+
+void HeadlessWindow::SetFont(const Police& police) {
+  police_ = police;
+  out_ << "{\"ev\":\"font\",\"name\":" << Json(police.nom) << ",\"size\":" << police.taille << "}\n";
+}
+
 bool HeadlessWindow::MenuEnabled(MenuId id) const {
   auto it = disabled_.find(id);
   return it == disabled_.end() || !it->second;
@@ -86,6 +116,7 @@ void HeadlessWindow::SetPaneSelection(std::size_t d, std::size_t l) {
 
 void HeadlessWindow::SetMessage(const std::string& t) {
   message_ = t;
+  messages.push_back(t);
   out_ << "{\"ev\":\"message\",\"text\":" << Json(t) << "}\n";
 }
 
@@ -104,6 +135,7 @@ Reponse HeadlessWindow::MessageBox(const std::string& texte, Boutons boutons, Ic
     answers.pop_front();
     repondu = true;
   }
+  boxes.push_back(texte);
   out_ << "{\"ev\":\"msgbox\",\"text\":" << Json(texte) << ",\"title\":" << Json(titre) << ",\"buttons\":\""
        << NomBoutons(boutons) << "\",\"answer\":\"" << NomReponse(r) << "\"" << (repondu ? "" : ",\"unanswered\":true")
        << "}\n";
@@ -118,13 +150,17 @@ std::string HeadlessWindow::InputBox(const std::string& invite, const std::strin
     answers.pop_front();
     repondu = true;
   }
+  prompts.push_back(invite);
   out_ << "{\"ev\":\"input\",\"prompt\":" << Json(invite) << ",\"title\":" << Json(titre)
        << ",\"default\":" << Json(defaut) << ",\"answer\":" << Json(r) << (repondu ? "" : ",\"unanswered\":true")
        << "}\n";
   return r;
 }
 
-void HeadlessWindow::Beep() { out_ << "{\"ev\":\"beep\"}\n"; }
+void HeadlessWindow::Beep() {
+  ++beeps;
+  out_ << "{\"ev\":\"beep\"}\n";
+}
 
 void HeadlessWindow::ClipboardSetText(const std::string& t) {
   clipboard_ = t;

@@ -1,13 +1,17 @@
-// The scripted window: UiServices over in-memory controls, writing one JSON line per thing a
-// user would see or hear, and taking dialog answers from a queue.
+// The scripted window: the port over in-memory controls, writing one JSON line per thing a
+// user would see or hear, and taking dialog answers from a queue. It is also the window the
+// unit tests and the benchmarks run the program in: it keeps the focus and pages its fields by
+// the real window's page height, and journals what was said.
 #pragma once
 #include <deque>
 #include <map>
 #include <ostream>
 #include <string>
+#include <vector>
 
 #include "app/headless/text_field.h"
-#include "ui/ui_services.h"
+#include "view/dialogs.h"
+#include "view/window.h"
 
 namespace lex::headless {
 
@@ -18,15 +22,24 @@ struct Answer {
   int size = 0;
 };
 
-class HeadlessWindow final : public UiServices {
+class HeadlessWindow final : public Fenetre, public Dialogues {
  public:
-  explicit HeadlessWindow(std::ostream& out) : out_(out) {}
+  // Events go to `out`; a window without one journals only.
+  explicit HeadlessWindow(std::ostream& out);
+  HeadlessWindow();
 
   TextField txt, rtb;
   std::deque<Answer> answers;
   bool quit = false;
 
-  TextField& Shown() { return rtbVisible_ ? rtb : txt; }
+  // The field with the keyboard focus, which gets the keys.
+  TextField& Shown() { return rtbFocus_ ? rtb : txt; }
+  bool PaneFocused() const { return rtbFocus_; }
+  const Police& Font() const { return police_; }
+
+  // The journal: every message line, message box text and input prompt, and the beeps.
+  std::vector<std::string> messages, boxes, prompts;
+  int beeps = 0;
   bool MenuEnabled(MenuId id) const;
   const std::string& Title() const { return title_; }
   const std::string& Message() const { return message_; }
@@ -36,21 +49,20 @@ class HeadlessWindow final : public UiServices {
   std::string GetLineText() const override { return txt.Text(); }
   void SetLineSelection(std::size_t d, std::size_t l) override;
   Selection GetLineSelection() const override { return {txt.Caret(), txt.Length()}; }
-  void SetLineFont(const Police&) override {}
   void SetLineEditable(bool e) override { txt.editable = e; }
   void SetPaneText(const std::string& t) override { rtb.SetText(t); }
   std::string GetPaneText() const override { return rtb.Text(); }
   void SetPaneSelection(std::size_t d, std::size_t l) override;
   Selection GetPaneSelection() const override { return {rtb.Caret(), rtb.Length()}; }
-  void SetPaneFont(const Police&) override {}
-  void SetPaneVisible(bool v) override { rtbVisible_ = v; }
+  void SetPaneVisible(bool v) override;
   bool IsPaneVisible() const override { return rtbVisible_; }
-  void FocusLine() override {}
-  void FocusPane() override {}
+  void SetFont(const Police& police) override;
+  void FocusLine() override { rtbFocus_ = false; }
+  void FocusPane() override { rtbFocus_ = rtbVisible_; }
   void SetMessage(const std::string& t) override;
   void SetTitle(const std::string& t) override;
   void SetButtonCaption(Bouton b, const std::string& t) override { captions_[b] = t; }
-  std::string GetButtonCaption(Bouton b) const override;
+  std::string GetButtonCaption(Bouton b) const;
   void SetButtonVisible(Bouton b, bool v) override { hidden_[b] = !v; }
   void SetMenuEnabled(MenuId id, bool a) override { disabled_[id] = !a; }
   Reponse MessageBox(const std::string& texte, Boutons boutons, Icone icone, const std::string& titre) override;
@@ -69,7 +81,8 @@ class HeadlessWindow final : public UiServices {
   std::string FileDialog(const char* ev, const std::string& titre, const std::string& filtre,
                          const std::string& dossier, const std::string& nom);
   std::ostream& out_;
-  bool rtbVisible_ = false;
+  bool rtbVisible_ = false, rtbFocus_ = false;
+  Police police_;
   std::string title_, message_, clipboard_;
   std::map<Bouton, std::string> captions_{{Bouton::CmdDic, "Index"}, {Bouton::CmdQuitter, "&Quitter"}};
   std::map<Bouton, bool> hidden_;

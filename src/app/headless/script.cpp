@@ -5,8 +5,10 @@
 
 #include "app/headless/headless_window.h"
 #include "base/encoding.h"
-#include "ui/events.h"
-#include "ui/keys.h"
+#include "controller/commands.h"
+#include "controller/events.h"
+#include "controller/key_route.h"
+#include "view/keys.h"
 
 namespace lex::headless {
 namespace {
@@ -14,8 +16,18 @@ namespace {
 struct Key {
   int code = 0;
   int shift = 0;
-  char ch = 0;  // the character the key produces, 0 for none
+  char ch = 0;  // the character the key types (Windows-1252), 0 for none
 };
+
+// The old numbers of the modes, which the scripts' "show" gives.
+int NumeroMode(Mode m) {
+  switch (m) {
+    case Mode::Index:
+    case Mode::ListeResultats: return 2;
+    case Mode::Article: return 3;
+    default: return 1;
+  }
+}
 
 bool ParseKey(std::string name, Key& k) {
   for (;;) {
@@ -44,7 +56,8 @@ bool ParseKey(std::string name, Key& k) {
       k.ch = v.second;
       return true;
     }
-  if (name.size() >= 2 && name[0] == 'F' && name.find_first_not_of("0123456789", 1) == std::string::npos) {
+  if (name.size() >= 2 && name.size() <= 3 && name[0] == 'F' &&
+      name.find_first_not_of("0123456789", 1) == std::string::npos) {
     const int n = std::stoi(name.substr(1));
     if (n < 1 || n > 12) return false;
     k.code = Touche::F(n);
@@ -74,7 +87,7 @@ const char* NomBouton(Bouton b) {
 
 class Runner {
  public:
-  Runner(std::ostream& out) : out_(out), win_(out), form_(win_) {}
+  Runner(std::ostream& out) : out_(out), win_(out), form_(win_, win_) {}
 
   void Load(const std::string& dossier) { EvChargement(form_, dossier); }
   bool Ended() const { return win_.quit || form_.fenetre.Termine; }
@@ -98,7 +111,7 @@ class Runner {
     if (cmd == "menu") {
       const MenuItem* m = MenuParNom(rest);
       if (!m) return false;
-      if (win_.MenuEnabled(m->id)) EvMenu(form_, m->id);
+      if (MenuActif(form_, m->id)) EvMenu(form_, m->id);
       else out_ << "{\"ev\":\"disabled\",\"menu\":" << Json(rest) << "}\n";
       return true;
     }
@@ -134,16 +147,9 @@ class Runner {
   bool PressKey(const std::string& name) {
     Key k;
     if (!ParseKey(name, k)) return false;
-    const Champ champ = win_.IsPaneVisible() ? Champ::Rtb : Champ::Txt;
-    // As a window delivers it: menu accelerators first, then key down, then the character.
-    if (const MenuItem* m = MenuParRaccourci(k.code, k.shift); m && win_.MenuEnabled(m->id)) {
-      EvMenu(form_, m->id);
-      return true;
-    }
-    if (EvToucheBas(form_, champ, k.code, k.shift)) return true;
-    const bool produit = k.ch != 0 && !(k.shift & (kCtrl | kAlt));
-    if (produit && EvTouchePresse(form_, champ, k.ch)) return true;
-    if (!Ended()) (champ == Champ::Rtb ? win_.rtb : win_.txt).Key(k.code, k.shift, produit ? k.ch : 0);
+    const Champ champ = win_.PaneFocused() ? Champ::Rtb : Champ::Txt;
+    const SuiteTouche suite = RouteTouche(form_, champ, k.code, k.shift, k.ch ? UnicodeDeAnsi(k.ch) : 0);
+    if (suite.auChamp) win_.Shown().Key(k.code, k.shift, suite.caractere ? AnsiDeUnicode(suite.caractere) : 0);
     return true;
   }
 
@@ -179,7 +185,7 @@ class Runner {
     auto b = [&](Bouton x) {
       return Json(win_.GetButtonCaption(x)) + ",\"" + NomBouton(x) + "_visible\":" + (win_.ButtonVisible(x) ? "true" : "false");
     };
-    out_ << "{\"ev\":\"state\",\"mode\":" << form_.fenetre.ModeCourant << ",\"title\":" << Json(win_.Title())
+    out_ << "{\"ev\":\"state\",\"mode\":" << NumeroMode(form_.fenetre.ModeCourant()) << ",\"title\":" << Json(win_.Title())
          << ",\"message\":" << Json(win_.Message()) << ",\"txt\":" << Json(win_.txt.Text())
          << ",\"caret_line\":" << shown.Line() << ",\"caret_col\":" << shown.Column()
          << ",\"line\":" << Json(shown.CurrentLine()) << ",\"rtb_visible\":" << (win_.IsPaneVisible() ? "true" : "false")

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "ui/keys.h"
+#include "view/keys.h"
 
 namespace lex::headless {
 
@@ -79,8 +79,8 @@ void TextField::Key(int code, int shift, char ch) {
       return;
     case Touche::Haut: MoveLines(-1); return;
     case Touche::Bas: MoveLines(1); return;
-    case Touche::PagePrec: MoveLines(-20); return;
-    case Touche::PageSuiv: MoveLines(20); return;
+    case Touche::PagePrec: MoveLines(-lignesPage); return;
+    case Touche::PageSuiv: MoveLines(lignesPage); return;
     case Touche::Debut: SetCaret(ctrl ? 0 : LineStart(caret_)); return;
     case Touche::Fin: SetCaret(ctrl ? text_.size() : LineEnd(caret_)); return;
     case Touche::Suppr:

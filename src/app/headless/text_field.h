@@ -16,6 +16,8 @@ class TextField {
   std::size_t Length() const { return length_; }
   void SetSelectionLength(std::size_t n) { length_ = n; }
   bool editable = true;
+  // Lines that Page Up and Page Down move by: the lines the field shows.
+  long lignesPage = 26;
 
   // Line and column of the caret, from 1.
   std::size_t Line() const;

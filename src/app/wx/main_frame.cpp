@@ -6,8 +6,8 @@
 #include <gdk/gdk.h>
 #endif
 
-#include "ui/keys.h"
-#include "ui/menus.h"
+#include "controller/menus.h"
+#include "view/keys.h"
 
 namespace lex::wx {
 
@@ -87,7 +87,7 @@ Form1::Form1()
   c.menus = CreeMenus();
   SetMenuBar(c.menus);
   ui_ = std::make_unique<WxWindow>(c);
-  form_ = std::make_unique<Form>(*ui_);
+  form_ = std::make_unique<Form>(*ui_, *ui_);
 
   for (auto [ctrl, champ] : {std::pair{txt, Champ::Txt}, std::pair{Rtb, Champ::Rtb}}) {
     const Champ ch = champ;
@@ -127,53 +127,27 @@ bool Form1::Charger(const std::string& dossierProgramme) {
   return !ui_->QuitDemande();
 }
 
-namespace {
-
-// The character a key produces, or 0. Ctrl and Alt combinations are commands, not characters
-// (Ctrl+Alt together is AltGr on Windows).
-char32_t Caractere(const wxKeyEvent& e, char32_t c) {
-  const bool ctrl = e.ControlDown(), alt = e.AltDown();
-  if (c == 0 || c == 127 || ((ctrl || alt) && !(ctrl && alt && c >= 32))) return 0;
-  return c;
-}
-
-}  // namespace
-
 void Form1::ToucheBas(wxKeyEvent& e, Champ champ) {
   const int code = CodeTouche(e.GetKeyCode());
-  const int shift = Modificateurs(e);
-  // A menu's shortcut wins over the field, as in any window: Ctrl+A is a command, not the
-  // field's select-all.
-  if (const MenuItem* m = MenuParRaccourci(code, shift); m && ui_->MenuActif(m->id)) {
-    EvMenu(*form_, m->id);
-    return;
-  }
-  if (EvToucheBas(*form_, champ, code, shift)) return;
 #ifdef __WXGTK__
   // GTK gives a read-only text view's printable keys to its input method, and wx then sends
-  // no character event for them: the character is taken from the key itself, here, for
-  // every key alike.
-  if (const char32_t c = Caractere(e, gdk_keyval_to_unicode(e.GetRawKeyCode())); c != 0 && Presse(champ, c)) return;
+  // no character event for them: the character is taken from the key itself, here, and the
+  // whole route runs at key down.
+  if (RouteTouche(*form_, champ, code, Modificateurs(e), gdk_keyval_to_unicode(e.GetRawKeyCode())).auChamp) e.Skip();
+#else
+  if (!lex::ToucheBas(*form_, champ, code, Modificateurs(e))) e.Skip();
 #endif
-  e.Skip();
 }
 
 void Form1::TouchePresse(wxKeyEvent& e, Champ champ) {
 #ifndef __WXGTK__
   char32_t c = e.GetUnicodeKey() == WXK_NONE ? 0 : static_cast<char32_t>(e.GetUnicodeKey());
   if (e.GetKeyCode() == WXK_NUMPAD_ENTER) c = '\r';
-  if (c = Caractere(e, c); c != 0 && Presse(champ, c)) return;
+  if (!Caractere(*form_, champ, Modificateurs(e), c).auChamp) return;
 #else
   (void)champ;
 #endif
   e.Skip();
-}
-
-bool Form1::Presse(Champ champ, char32_t c) {
-  const std::string ansi = DepuisWx(wxString(wxUniChar(static_cast<wxUint32>(c))));
-  // A character that Windows-1252 cannot hold is left to the field.
-  if (ansi.size() != 1 || (ansi[0] == '?' && c != '?')) return false;
-  return EvTouchePresse(*form_, champ, ansi[0]);
 }
 
 void Form1::Menu(wxCommandEvent& e) { EvMenu(*form_, static_cast<MenuId>(e.GetId() - kPremierIdMenu)); }

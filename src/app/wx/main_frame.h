@@ -7,8 +7,9 @@
 #include <string>
 
 #include "app/wx/wx_window.h"
-#include "ui/events.h"
-#include "ui/form.h"
+#include "controller/events.h"
+#include "controller/form.h"
+#include "controller/key_route.h"
 
 namespace lex::wx {
 
@@ -22,7 +23,6 @@ class Form1 final : public wxFrame {
   wxMenuBar* CreeMenus();
   void ToucheBas(wxKeyEvent& e, lex::Champ champ);
   void TouchePresse(wxKeyEvent& e, lex::Champ champ);
-  bool Presse(lex::Champ champ, char32_t c);
   void Menu(wxCommandEvent& e);
   void Fermeture(wxCloseEvent& e);
 

@@ -73,18 +73,29 @@ Selection ChampTexte::GetSelection() const {
   return {debut, PositionProgramme(t, static_cast<std::size_t>(a)) - debut};
 }
 
-void ChampTexte::SetPolice(const Police& p) { ctrl_->SetFont(PoliceWx(p)); }
+void ChampTexte::SetPolice(const wxFont& police) {
+  // The control restyles its whole text for a new font and the caret may move with it: the
+  // line the user heard must stay the one under the caret.
+  const Selection s = GetSelection();
+  ctrl_->SetFont(police);
+  SetSelection(s.debut, s.longueur);
+}
 
 WxWindow::WxWindow(const Controles& c) : c_(c), txt_(c.txt), rtb_(c.rtb) {
-  for (Bouton b : {Bouton::CmdDic, Bouton::CmdDivers, Bouton::CmdQuitter})
-    legendes_[Rang(b)] = DepuisWx(c_.boutons[Rang(b)]->GetLabel());
 #ifdef __WXGTK__
   // Orca speaks a label's change only for a notification, and only when told it is shown.
   atk_object_set_role(Accessible(c_.message), ATK_ROLE_NOTIFICATION);
 #endif
 }
 
-bool WxWindow::MenuActif(MenuId id) const { return c_.menus->IsEnabled(IdMenu(id)); }
+void WxWindow::SetFont(const Police& p) {
+  const wxFont police = PoliceWx(p);
+  txt_.SetPolice(police);
+  rtb_.SetPolice(police);
+  c_.message->SetFont(police);
+  c_.message->SetMinSize(wxSize(-1, c_.message->GetCharHeight() * 3 / 2));
+  c_.panneau->Layout();
+}
 
 void WxWindow::SetPaneVisible(bool visible) {
   if (visible == c_.rtb->IsShown()) return;
@@ -101,7 +112,6 @@ void WxWindow::SetMessage(const std::string& t) {
 }
 
 void WxWindow::SetButtonCaption(Bouton b, const std::string& t) {
-  legendes_[Rang(b)] = t;
   c_.boutons[Rang(b)]->SetLabel(VersWx(t));
   c_.panneau->Layout();
 }

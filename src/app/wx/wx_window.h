@@ -1,4 +1,4 @@
-// UiServices over native wxWidgets controls. Nothing here decides anything: every call is
+// The port over native wxWidgets controls. Nothing here decides anything: every call is
 // forwarded to a control, with text converted between the program's Windows-1252 "\r\n" text
 // and the control's own.
 #pragma once
@@ -7,8 +7,8 @@
 #include <array>
 #include <string>
 
-#include "ui/menus.h"
-#include "ui/ui_services.h"
+#include "view/dialogs.h"
+#include "view/window.h"
 
 namespace lex::wx {
 
@@ -32,7 +32,7 @@ class ChampTexte {
   const std::string& Texte() const;
   void SetSelection(std::size_t debut, std::size_t longueur);
   Selection GetSelection() const;
-  void SetPolice(const Police& p);
+  void SetPolice(const wxFont& police);
 
  private:
   wxTextCtrl* ctrl_;
@@ -50,33 +50,30 @@ struct Controles {
   wxMenuBar* menus = nullptr;
 };
 
-class WxWindow final : public UiServices {
+class WxWindow final : public Fenetre, public Dialogues {
  public:
   explicit WxWindow(const Controles& c);
 
   ChampTexte& ChampDe(wxTextCtrl* c) { return c == rtb_.Controle() ? rtb_ : txt_; }
   bool QuitDemande() const { return quit_; }
-  bool MenuActif(MenuId id) const;
 
   void SetLineText(const std::string& t) override { txt_.SetTexte(t); }
   std::string GetLineText() const override { return txt_.Texte(); }
   void SetLineSelection(std::size_t d, std::size_t l) override { txt_.SetSelection(d, l); }
   Selection GetLineSelection() const override { return txt_.GetSelection(); }
-  void SetLineFont(const Police& p) override { txt_.SetPolice(p); }
   void SetLineEditable(bool e) override { c_.txt->SetEditable(e); }
   void SetPaneText(const std::string& t) override { rtb_.SetTexte(t); }
   std::string GetPaneText() const override { return rtb_.Texte(); }
   void SetPaneSelection(std::size_t d, std::size_t l) override { rtb_.SetSelection(d, l); }
   Selection GetPaneSelection() const override { return rtb_.GetSelection(); }
-  void SetPaneFont(const Police& p) override { rtb_.SetPolice(p); }
   void SetPaneVisible(bool visible) override;
   bool IsPaneVisible() const override { return c_.rtb->IsShown(); }
+  void SetFont(const Police& p) override;
   void FocusLine() override { c_.txt->SetFocus(); }
   void FocusPane() override { c_.rtb->SetFocus(); }
   void SetMessage(const std::string& t) override;
   void SetTitle(const std::string& t) override { c_.form->SetTitle(VersWx(t)); }
   void SetButtonCaption(Bouton b, const std::string& t) override;
-  std::string GetButtonCaption(Bouton b) const override { return legendes_[Rang(b)]; }
   void SetButtonVisible(Bouton b, bool visible) override;
   void SetMenuEnabled(MenuId id, bool actif) override { c_.menus->Enable(IdMenu(id), actif); }
   Reponse MessageBox(const std::string& texte, Boutons boutons, Icone icone, const std::string& titre) override;
@@ -98,7 +95,6 @@ class WxWindow final : public UiServices {
 
   Controles c_;
   ChampTexte txt_, rtb_;
-  std::array<std::string, 3> legendes_;
   bool quit_ = false;
 };
 

@@ -1,0 +1,73 @@
+#include "controller/buttons.h"
+
+#include "base/error.h"
+#include "controller/article_view.h"
+#include "controller/form.h"
+#include "controller/line_helpers.h"
+#include "controller/message.h"
+#include "controller/modes.h"
+#include "controller/opening.h"
+#include "controller/paging.h"
+#include "controller/startup.h"
+
+namespace lex {
+namespace {
+
+// Back to the page, with the caret on the entry that was being read.
+void RetourDeLArticle(Form& f) {
+  EtatFenetre& w = f.fenetre;
+  const std::int32_t lu = w.IndexCourant;
+  std::int32_t premier = w.PremierIndexAffiche;
+  if (lu < premier || lu >= premier + kLignesPage) premier = lu;
+  EntrerPage(f, premier, Annonce::ApresLeTitre, lu - premier + 1);
+}
+
+}  // namespace
+
+void RetourIndex(Form& f) {
+  ErrorTrap trap(" sur RetourIndex");
+  EtatFenetre& w = f.fenetre;
+  message(f, " ");
+  switch (w.ModeCourant()) {
+    case Mode::Aide: EntrerListeDictio(f); break;
+    case Mode::ListeHistoire:
+      // Escape in the history list goes back to the main list, on the row "Histoire".
+      w.ListeHistoire = false;
+      w.DictioCourant = 9;
+      EntrerListeDictio(f);
+      break;
+    case Mode::ListeDictionnaires:
+      if (RangSousCurseur(f) >= 1) w.DictioCourant = static_cast<std::int16_t>(EntreeDeLigne(f.catalogue, RangSousCurseur(f)));
+      EntrerListeDictio(f);
+      break;
+    case Mode::ListeResultats: {
+      // A result list gives way to the dictionary's own index, on the entry it was on.
+      const std::int32_t numero = f.liste.Nombre() > 0 ? f.liste.NumeroDictio(IndexAbsolu(f)) : 1;
+      EntrerIndex(f, numero, Annonce::ApresLeTitre);
+      break;
+    }
+    case Mode::Index:
+      if (f.liste.Nombre() > 0) f.catalogue[w.DictioCourant].PositionDictio = IndexAbsolu(f);
+      EntrerListeDictio(f);
+      break;
+    case Mode::Article: RetourDeLArticle(f); break;
+  }
+}
+
+void CmdDic_Click(Form& f) {
+  const Mode m = f.fenetre.ModeCourant();
+  if (SurLeCatalogue(m)) AppelDictionnaire(f);
+  else if (SurUneListe(m)) dictionnaire(f);
+  else RetourIndex(f);
+  FocusChamp(f);
+}
+
+void CmdDivers_Click(Form& f) {
+  // "Liste": back from the page to the list.
+  if (SurUneListe(f.fenetre.ModeCourant())) RetourIndex(f);
+  FocusChamp(f);
+}
+
+void CmdQuitter_Click(Form& f) { quitter(f); }
+
+}  // namespace lex

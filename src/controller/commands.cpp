@@ -1,0 +1,44 @@
+#include "controller/commands.h"
+
+#include "catalogue/saving.h"
+#include "controller/buttons.h"
+#include "controller/form.h"
+#include "controller/message.h"
+#include "controller/navigation.h"
+#include "controller/options.h"
+#include "controller/startup.h"
+#include "notepad/notepad.h"
+#include "search/commands.h"
+
+namespace lex {
+
+void InscrireCommandes(Form& f) {
+  RegistreCommandes& r = f.commandes;
+  r.Inscrire(MenuId::mnuQuitter, [&f] { quitter(f); });
+  r.Inscrire(MenuId::mnuRetourIndexItem, [&f] { RetourIndex(f); });
+  r.Inscrire(MenuId::mnuParlerIndexItem, [&f] { parlerIndex(f); });
+  r.Inscrire(MenuId::mnuPoliceEcran, [&f] { mnuPoliceEcran_Click(f); });
+  r.Inscrire(MenuId::mnuAideTxt, [&f] { mnuAideTxt_Click(f); });
+  r.Inscrire(MenuId::mnuApropos, [&f] { mnuApropos_Click(f); });
+  InscrireCommandesCatalogue(r, {f, f.catalogue, f.reglages, f.dico, f.fenetre.DictioCourant});
+  InscrireCommandesRecherche(r, {f, f.dlg, f.recherche});
+  InscrireCommandesBlocNote(r, f);
+}
+
+void ExecuteMenu(Form& f, MenuId id) {
+  const Commande* c = f.commandes.Trouve(id);
+  if (!c) message(f, "commande non disponible dans cette version");
+  else if (!c->actif || c->actif()) c->executer();
+}
+
+bool MenuActif(const Form& f, MenuId id) {
+  auto it = f.menusInactifs.find(id);
+  return it == f.menusInactifs.end() || !it->second;
+}
+
+void ActiveMenu(Form& f, MenuId id, bool actif) {
+  f.menusInactifs[id] = !actif;
+  f.ui.SetMenuEnabled(id, actif);
+}
+
+}  // namespace lex

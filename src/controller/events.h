@@ -1,0 +1,19 @@
+// The window's events, as a front end forwards them. Each runs to completion under the error
+// trap; once the program has ended (quitter, or an error), events are ignored.
+#pragma once
+#include <string>
+
+#include "controller/form.h"
+#include "controller/menus.h"
+
+namespace lex {
+
+// The form's load event; `dossierProgramme` is the program folder (Windows-1252).
+void EvChargement(Form& f, const std::string& dossierProgramme);
+// A menu entry chosen in the menu bar (accelerators go through the key route).
+void EvMenu(Form& f, MenuId id);
+void EvBouton(Form& f, Bouton b);
+// The window's close box: the program always ends, saving what the user agreed to.
+void EvFermeture(Form& f);
+
+}  // namespace lex

@@ -1,0 +1,52 @@
+// The window's state: the parts each subsystem works on, the port to the window, and the
+// screen the subsystems ask to show what they found.
+#pragma once
+#include <map>
+
+#include "catalogue/catalogue.h"
+#include "catalogue/settings.h"
+#include "data/open_dictionary.h"
+#include "search/search_state.h"
+#include "selection/selections.h"
+#include "controller/window_state.h"
+#include "view/commands.h"
+#include "view/dialogs.h"
+#include "view/window.h"
+
+namespace lex {
+
+struct Form final : EcranRecherche {
+  Form(Fenetre& fenetreUi, Dialogues& dialogues);
+  Form(const Form&) = delete;
+  Form& operator=(const Form&) = delete;
+
+  Fenetre& ui;
+  Dialogues& dlg;
+  Reglages reglages;
+  Catalogue catalogue;
+  DictionnaireOuvert dico;
+  ListeAffichee liste{dico};
+  EtatFenetre fenetre;
+  EtatRecherche recherche;
+  Selections selections;
+  RegistreCommandes commandes;
+  // Menu entries the program has disabled; the others are enabled.
+  std::map<MenuId, bool> menusInactifs;
+
+  // What the subsystems ask of the screen.
+  Mode mode() const override { return fenetre.ModeCourant(); }
+  void message(std::string texte) override;
+  void Beep() override { ui.Beep(); }
+  const ListeAffichee& Liste() const override { return liste; }
+  std::string TexteChamp() const override;
+  std::size_t CurseurChamp() const override;
+  void MontreOccurrence(std::size_t position) override;
+  std::int32_t EntreeCourante() const override;
+  void MontrePage(std::int32_t i) override;
+  void RetourPage(std::int32_t i, bool annonce, const std::string& debut) override;
+  void MontreArticle(std::int32_t i, const std::string& article, std::size_t curseur) override;
+  void MontreResultats(std::vector<EntreeTrouvee> entrees, std::string titre) override;
+  void ChercheDebut(const std::string& plie) override;
+};
+
+}  // namespace lex

@@ -1,0 +1,100 @@
+#include "controller/key_handlers.h"
+
+#include "controller/article_view.h"
+#include "controller/buttons.h"
+#include "controller/commands.h"
+#include "controller/form.h"
+#include "controller/navigation.h"
+#include "controller/opening.h"
+#include "view/keys.h"
+
+namespace lex {
+
+bool txt_KeyDown(Form& f, int code, int shift) {
+  const Mode m = f.fenetre.ModeCourant();
+  const bool ctrl = (shift & kCtrl) != 0;
+  // The guide and the about text are read with the field's own keys.
+  if (m == Mode::Aide) return code == Touche::Suppr;
+  switch (code) {
+    case Touche::Espace:
+      if (ctrl) {
+        ExecuteMenu(f, MenuId::MnuDeSelection);
+        return true;
+      }
+      return false;
+    case Touche::Suppr: return true;
+    case Touche::Haut:
+      if (!ctrl) return FlecheHaut(f);
+      return false;  // paragraph reading is left to the field
+    case Touche::Bas:
+      if (!ctrl) return FlecheBas(f);
+      if (m == Mode::Article) return false;
+      ExecuteMenu(f, MenuId::MnuSelection);
+      return true;
+    case Touche::PagePrec: return Indexprecedent(f);
+    case Touche::PageSuiv: return Indexsuivant(f);
+    case Touche::Debut:
+      f.fenetre.DebutIndexCherche.clear();
+      return ctrl && AppelDebutIndex(f);
+    case Touche::Fin:
+      f.fenetre.DebutIndexCherche.clear();
+      return ctrl && AppelFinIndex(f);
+    case 'I':
+      // In the index the letter I is a typed beginning like any other; in an article being
+      // read it tells which entry it is.
+      if (!ctrl && m == Mode::Article) {
+        parlerIndex(f);
+        return true;
+      }
+      return false;
+    default: return false;
+  }
+}
+
+bool txt_KeyPress(Form& f, char c) {
+  const Mode m = f.fenetre.ModeCourant();
+  if (c == 27) {
+    RetourIndex(f);
+    return true;
+  }
+  if (m == Mode::Aide) return true;
+  if (c == 8) {
+    if (SurUneListe(m)) BakSpaceIndex(f);
+    else if (m == Mode::Article) RetourSuiteIndex(f);
+    return true;
+  }
+  if (c == 13) {
+    if (SurUneListe(m)) dictionnaire(f);
+    else if (m == Mode::Article) SuiteIndex(f);
+    else AppelDictionnaire(f);
+    return true;
+  }
+  if (static_cast<unsigned char>(c) < 32) return false;
+  if (m != Mode::Article) TapeCaractere(f, c);
+  return true;
+}
+
+bool Rtb_KeyDown(Form&, int, int) {
+  // Paragraph reading with Ctrl+Up and Ctrl+Down is left to the pane itself.
+  return false;
+}
+
+bool Rtb_KeyPress(Form& f, char c) {
+  if (c == 27) {
+    RetourIndex(f);
+    return true;
+  }
+  if (f.fenetre.ModeCourant() == Mode::Article) {
+    if (c == 8) {
+      RetourSuiteIndex(f);
+      return true;
+    }
+    if (c == 13) {
+      SuiteIndex(f);
+      return true;
+    }
+  }
+  return true;
+}
+
+}  // namespace lex

@@ -1,0 +1,108 @@
+#include "controller/modes.h"
+
+#include <algorithm>
+
+#include "base/blanks.h"
+#include "catalogue/lists.h"
+#include "controller/form.h"
+#include "controller/line_helpers.h"
+#include "controller/message.h"
+#include "controller/paging.h"
+
+namespace lex {
+
+void PoseMode(EtatFenetre& w, Mode m) { w.mode_ = m; }
+
+namespace {
+
+void PoseBoutons(Form& f, const char* dic, const char* divers) {
+  f.ui.SetButtonCaption(Bouton::CmdDic, dic);
+  f.ui.SetButtonVisible(Bouton::CmdDic, true);
+  if (divers) f.ui.SetButtonCaption(Bouton::CmdDivers, divers);
+  f.ui.SetButtonVisible(Bouton::CmdDivers, divers != nullptr);
+}
+
+// What both lists of the catalogue share.
+void EntrerCatalogue(Form& f, Mode m, const std::string& texte) {
+  PoseMode(f.fenetre, m);
+  f.liste.MontreIndex();
+  OublieDebutTape(f);
+  MontreDansTxt(f, texte);
+  f.ui.FocusLine();
+  PoseBoutons(f, "Index", nullptr);
+}
+
+}  // namespace
+
+void OublieDebutTape(Form& f) {
+  f.fenetre.DebutIndexCherche.clear();
+  f.fenetre.DebutIndexTape.clear();
+}
+
+void EntrerListeDictio(Form& f) {
+  if (f.fenetre.ListeHistoire) {
+    EntrerListeHistoire(f);
+    return;
+  }
+  EntrerCatalogue(f, Mode::ListeDictionnaires, TexteListeDictio(f.catalogue));
+  SurNumero(f, LigneDeEntree(f.catalogue, f.fenetre.DictioCourant) + 2);
+  AfficheStatus(f);
+}
+
+void EntrerListeHistoire(Form& f) {
+  f.fenetre.ListeHistoire = true;
+  EntrerCatalogue(f, Mode::ListeHistoire, TexteListeHistoire(f.catalogue));
+  SurNumero(f, f.catalogue[9].PositionDictio + 2);
+  AfficheStatus(f);
+}
+
+void EntrerPage(Form& f, std::int32_t premier, Annonce annonce, std::int32_t ligne) {
+  EtatFenetre& w = f.fenetre;
+  PoseMode(w, f.liste.EstResultats() ? Mode::ListeResultats : Mode::Index);
+  PoseBoutons(f, "D\xE9" "finition", "Liste");
+  OublieDebutTape(f);
+  w.FlecheHautArmee = w.FlecheBasArmee = false;
+  w.PremierIndexAffiche = premier;
+  InitTableIndex(f);
+  if (ligne > 1) f.ui.SetLineSelection(DebutLigne(f.ui.GetLineText(), ligne), 0);
+  f.ui.FocusLine();
+  if (annonce == Annonce::AvantLeTitre) AnnonceLigneCourante(f);
+  AfficheStatus(f);
+  if (annonce == Annonce::ApresLeTitre) AnnonceLigneCourante(f);
+}
+
+void EntrerIndex(Form& f, std::int32_t premier, Annonce annonce) {
+  f.liste.MontreIndex();
+  EntrerPage(f, premier, annonce);
+}
+
+void EntrerArticle(Form& f, std::int32_t numero, const std::string& article, std::size_t curseur) {
+  EtatFenetre& w = f.fenetre;
+  PoseMode(w, Mode::Article);
+  OublieDebutTape(f);
+  w.IndexCourant = numero;
+  w.TexteIndexCourant = SansBlancs(f.liste.Texte(numero));
+  if (article.size() <= kLongueurMaxTxt) {
+    MontreDansTxt(f, article);
+    f.ui.FocusLine();
+  } else {
+    f.ui.SetPaneText(article);
+    f.ui.SetPaneVisible(true);
+    f.ui.FocusPane();
+  }
+  PoseBoutons(f, "Index", nullptr);
+  if (curseur == std::string::npos) SurNumero(f, 2);
+  else PoseCurseur(f, curseur);
+  AfficheStatus(f);
+}
+
+void EntrerAide(Form& f, const std::string& texte) {
+  PoseMode(f.fenetre, Mode::Aide);
+  OublieDebutTape(f);
+  MontreDansTxt(f, texte);
+  f.ui.FocusLine();
+  PoseBoutons(f, "OK", nullptr);
+  AnnonceLigneCourante(f);
+}
+
+}  // namespace lex

@@ -1,0 +1,36 @@
+// Entering a mode: each function sets everything that goes with what the user is in (the
+// mode, the buttons, the title, the list shown, the typed beginning). Nothing else sets the
+// mode.
+#pragma once
+#include <cstddef>
+#include <cstdint>
+#include <string>
+
+namespace lex {
+
+struct Form;
+
+// The list of dictionaries (the history list when the user came from it), caret on the row of
+// the current dictionary, that row announced.
+void EntrerListeDictio(Form& f);
+void EntrerListeHistoire(Form& f);
+// Whether entering a page announces the caret's line, and whether before or after the title
+// changes (opening is heard line first, coming back title first).
+enum class Annonce { Non, AvantLeTitre, ApresLeTitre };
+// The page of the shown list (the index, or a result list) starting at `premier`, the caret
+// on its line `ligne`.
+void EntrerPage(Form& f, std::int32_t premier, Annonce annonce, std::int32_t ligne = 1);
+// The dictionary's own index in place of a result list.
+void EntrerIndex(Form& f, std::int32_t premier, Annonce annonce);
+// Article `numero` of the shown list, its text `article`. With no `curseur` the caret goes to
+// the first definition line and that line is announced; otherwise the caret goes to
+// `curseur` and nothing is announced.
+void EntrerArticle(Form& f, std::int32_t numero, const std::string& article,
+                   std::size_t curseur = std::string::npos);
+// The guide or the about text in place of the field's text, read line by line.
+void EntrerAide(Form& f, const std::string& texte);
+
+// Forgets the letters typed so far.
+void OublieDebutTape(Form& f);
+
+}  // namespace lex

@@ -1,0 +1,57 @@
+#include "controller/opening.h"
+
+#include "base/error.h"
+#include "catalogue/opening.h"
+#include "controller/form.h"
+#include "controller/line_helpers.h"
+#include "controller/message.h"
+#include "controller/modes.h"
+#include "data/files.h"
+#include "notepad/notepad.h"
+
+namespace lex {
+
+int RangSousCurseur(const Form& f) {
+  const int l = LigneCurseur(f);
+  return l < 3 ? 0 : l - 2;
+}
+
+void AppelDictionnaire(Form& f) {
+  ErrorTrap trap(" sur AppelDictionnaire");
+  EtatFenetre& w = f.fenetre;
+  Catalogue& c = f.catalogue;
+  if (!SurLeCatalogue(w.ModeCourant())) return;
+  const int r = RangSousCurseur(f);
+  if (r < 1) return;
+  if (w.ModeCourant() == Mode::ListeHistoire) {
+    if (r > c.NombreHistoire) return;
+    w.DictioCourant = static_cast<std::int16_t>(r + 9);
+    c[9].PositionDictio = r;
+  } else {
+    w.DictioCourant = static_cast<std::int16_t>(EntreeDeLigne(c, r));
+    if (w.DictioCourant > c.NombreDictio()) return;
+    if (w.DictioCourant == c.NombreDictio()) {
+      blocnote(f);
+      return;
+    }
+    if (w.DictioCourant == 9) {
+      EntrerListeHistoire(f);
+      return;
+    }
+  }
+  const int d = w.DictioCourant;
+  const std::string nomfic = FichierALire(c, f.reglages.DossierDictio, d);
+  if (!FichierExistant(nomfic)) {
+    f.dlg.MessageBox("dictionnaire " + nomfic + " absent, Ctrl-n pour cr\xE9" "er le premier index ", Boutons::OK,
+                     Icone::Exclamation, "Dictionnaires");
+    return;
+  }
+  f.liste.MontreIndex();
+  OuvreDictionnaire(
+      c, f.reglages.DossierDictio, d, nomfic, f.dico, f.selections, [&f](std::string t) { message(f, std::move(t)); },
+      [&f] { f.ui.Beep(); });
+  w.PileSuite.clear();
+  EntrerIndex(f, c[d].PositionDictio, Annonce::AvantLeTitre);
+}
+
+}  // namespace lex

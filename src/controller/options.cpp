@@ -1,0 +1,50 @@
+#include "controller/options.h"
+
+#include "base/blanks.h"
+#include "base/error.h"
+#include "base/numbers.h"
+#include "controller/form.h"
+#include "controller/message.h"
+#include "controller/modes.h"
+#include "data/files.h"
+
+namespace lex {
+
+Police PoliceReglee(const Reglages& r) {
+  const std::int32_t taille = Val(r.PoliceTaille);
+  return {r.PoliceNom, taille > 0 && taille <= 200 ? taille : 10};
+}
+
+void mnuPoliceEcran_Click(Form& f) {
+  ErrorTrap trap(" sur mnuPoliceEcran_Click");
+  Reglages& r = f.reglages;
+  f.dlg.MessageBox("police " + r.PoliceNom + " Taille " + r.PoliceTaille, Boutons::OK, Icone::Information,
+                   "Dictionnaires");
+  if (f.dlg.MessageBox("Voulez vous modifier la police de l'\xE9" "cran", Boutons::YesNo, Icone::Question,
+                       "Dictionnaires") != Reponse::Yes)
+    return;
+  const auto choix = f.dlg.FontDialog(PoliceReglee(r));
+  if (!choix) {
+    message(f, "Vous n'avez s\xE9lectionn\xE9 aucune police.");
+    return;
+  }
+  f.ui.SetFont(*choix);
+  r.PoliceNom = SansBlancs(choix->nom);
+  r.PoliceTaille = std::to_string(choix->taille);
+}
+
+void mnuAideTxt_Click(Form& f) {
+  ErrorTrap trap(" sur mnuAideTxt_Click");
+  f.ui.SetLineText("");
+  std::string texte;
+  for (const std::string& l : LireLignes(f.reglages.DossierProgramme + "aide.txt")) texte += l + "\r\n";
+  if (!texte.empty()) texte.resize(texte.size() - 2);
+  EntrerAide(f, texte);
+}
+
+void mnuApropos_Click(Form& f) {
+  EntrerAide(f, "LEX Version 4.00\r\nJanvier 2008\r\nLes d\xE9veloppeurs de LEX\r\n"
+                "Contact : le d\xE9p\xF4t du projet LEX");
+}
+
+}  // namespace lex

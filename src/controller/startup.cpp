@@ -1,0 +1,79 @@
+#include "controller/startup.h"
+
+#include "base/error.h"
+#include "catalogue/config.h"
+#include "catalogue/saving.h"
+#include "controller/commands.h"
+#include "controller/form.h"
+#include "controller/line_helpers.h"
+#include "controller/modes.h"
+#include "controller/options.h"
+#include "data/files.h"
+
+namespace lex {
+
+void Chargement(Form& f, const std::string& dossierProgramme) {
+  ErrorTrap trap(" sur load");
+  ActiveMenu(f, MenuId::mnuEffaceArticleDouble, true);
+  ActiveMenu(f, MenuId::mnuImporterAjout, false);
+  ActiveMenu(f, MenuId::mnuExporterAjout, false);
+  f.recherche.RespectCasse = false;
+
+  Reglages& r = f.reglages;
+  r.DossierProgramme = ajoutbackslash(dossierProgramme);
+  r.FichierConfig = r.DossierProgramme + "lex301.INI";
+  r.FichierTravail = r.DossierProgramme + "travail.txt";
+  r.DossierDictio = r.DossierProgramme;
+  r.FichierBlocNote = r.DossierProgramme + "blocnote.txt";
+  r.PoliceNom = "Courier";
+  r.PoliceTaille = "10";
+  f.fenetre.DictioCourant = 1;
+
+  InitDictio(f.catalogue, r.DossierDictio);
+  if (!FichierExistant(r.FichierConfig)) EcrireLignes(r.FichierConfig, LignesUsine(r.DossierProgramme));
+  LireConfig(f.catalogue, r, f.fenetre.DictioCourant);
+  AjoutLettreAppelDictio(f.catalogue);
+
+  f.ui.SetFont(PoliceReglee(r));
+  f.ui.SetLineEditable(false);
+
+  if (f.fenetre.DictioCourant == 9) {
+    EntrerListeHistoire(f);
+  } else {
+    // The configuration keeps the row of the main list; the window works with entries.
+    f.fenetre.DictioCourant = static_cast<std::int16_t>(EntreeDeLigne(f.catalogue, f.fenetre.DictioCourant));
+    EntrerListeDictio(f);
+  }
+}
+
+void quitter(Form& f) {
+  Catalogue& c = f.catalogue;
+  const bool ouvert = DansUnDictionnaire(f.fenetre.ModeCourant());
+  for (int i = 1; i <= c.NombreDictio() - 1; ++i) {
+    if (!c[i].DicModifie) continue;
+    switch (f.dlg.MessageBox("Souhaitez vous sauvegarder le dictionnaire " + c[i].NomDictio, Boutons::YesNoCancel,
+                             Icone::Question, "Dictionnaires")) {
+      case Reponse::Yes:
+        SauvegardeDic(c, f.reglages.DossierDictio, i, ouvert ? &f.dico : nullptr, f.fenetre.DictioCourant);
+        break;
+      case Reponse::No: {
+        const std::string selection =
+            f.reglages.DossierDictio + "s\xE9lection" + NomFichSeul(NomDictionnaire(c, f.reglages.DossierDictio, i));
+        if (FichierExistant(selection)) SupprimerFichier(selection);
+        break;
+      }
+      default:
+        return;
+    }
+  }
+  // The position kept is the entry's own number, even when a result list is shown.
+  if (SurUneListe(f.fenetre.ModeCourant()) && f.liste.Nombre() > 0)
+    c[f.fenetre.DictioCourant].PositionDictio = f.liste.NumeroDictio(IndexAbsolu(f));
+  EcrireLignes(f.reglages.FichierConfig,
+               LignesConfig(c, f.reglages, f.fenetre.ListeHistoire, f.fenetre.DictioCourant));
+  f.fenetre.Termine = true;
+  f.ui.Quit();
+  throw ProgrammeTermine{};
+}
+
+}  // namespace lex

@@ -1,0 +1,42 @@
+// What the window shows and where the user is.
+#pragma once
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "view/mode.h"
+
+namespace lex {
+
+class EtatFenetre {
+ public:
+  // Only the mode-entering functions change the mode.
+  Mode ModeCourant() const { return mode_; }
+
+  std::int16_t DictioCourant = 1;
+  // The dictionary being read was opened from the history list, which Escape brings back.
+  bool ListeHistoire = false;
+
+  std::string MessagePrecedent;
+  // Typed beginning of an index word, folded, and the same in capitals as typed.
+  std::string DebutIndexCherche;
+  std::string DebutIndexTape;
+
+  std::int32_t PremierIndexAffiche = 1;
+  std::int32_t IndexCourant = 0;
+  std::string TexteIndexCourant;
+
+  // An arrow at the top (bottom) line of a page turns the page only when pressed again there.
+  bool FlecheHautArmee = false;
+  bool FlecheBasArmee = false;
+  // Articles from which a word was followed (Enter in an article); Backspace goes back.
+  std::vector<std::int32_t> PileSuite;
+
+  bool Termine = false;
+
+ private:
+  friend void PoseMode(EtatFenetre& w, Mode m);
+  Mode mode_ = Mode::ListeDictionnaires;
+};
+
+}  // namespace lex

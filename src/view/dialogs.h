@@ -1,0 +1,28 @@
+// The dialogs the program opens over its window. Each waits for the user's answer.
+#pragma once
+#include <optional>
+#include <string>
+
+#include "view/window.h"
+
+namespace lex {
+
+enum class Boutons { OK, OKCancel, YesNo, YesNoCancel };
+enum class Icone { Aucune, Question, Exclamation, Information, Critique };
+enum class Reponse { OK, Cancel, Yes, No };
+
+class Dialogues {
+ public:
+  virtual ~Dialogues() = default;
+  virtual Reponse MessageBox(const std::string& texte, Boutons boutons, Icone icone, const std::string& titre) = 0;
+  // Empty when cancelled.
+  virtual std::string InputBox(const std::string& invite, const std::string& titre, const std::string& defaut) = 0;
+  // Paths are Windows-1252 like every other text; empty when cancelled.
+  virtual std::string OpenFileDialog(const std::string& titre, const std::string& filtre, const std::string& dossier,
+                                     const std::string& nomDefaut) = 0;
+  virtual std::string SaveFileDialog(const std::string& titre, const std::string& filtre, const std::string& dossier,
+                                     const std::string& nomDefaut) = 0;
+  virtual std::optional<Police> FontDialog(const Police& actuelle) = 0;
+};
+
+}  // namespace lex

@@ -1,0 +1,23 @@
+// What the user is in. The controller enters each mode through one function that sets
+// everything going with it; the subsystems only read it.
+#pragma once
+
+namespace lex {
+
+enum class Mode {
+  ListeDictionnaires,  // the main list of the catalogue
+  ListeHistoire,       // the history group's own list
+  Index,               // a page of the open dictionary's index
+  ListeResultats,      // a page of a result list, in place of the index
+  Article,             // an article being read
+  Aide,                // the guide or the about text, read line by line
+};
+
+// A page of the index or of a result list is shown.
+inline bool SurUneListe(Mode m) { return m == Mode::Index || m == Mode::ListeResultats; }
+// The list of dictionaries or the history list is shown.
+inline bool SurLeCatalogue(Mode m) { return m == Mode::ListeDictionnaires || m == Mode::ListeHistoire; }
+// A dictionary is open: a page of it, or one of its articles.
+inline bool DansUnDictionnaire(Mode m) { return SurUneListe(m) || m == Mode::Article; }
+
+}  // namespace lex
