@@ -23,11 +23,6 @@ void Catalogue::Inserer(int avant, CatalogueEntry e) {
   entrees_.insert(entrees_.begin() + (avant - 1), std::move(e));
 }
 
-void Catalogue::Supprimer(int i) {
-  if (i < 1 || i > NombreDictio()) Erreur(9);
-  entrees_.erase(entrees_.begin() + (i - 1));
-}
-
 void InitDictio(Catalogue& c, const std::string& dossierDictio) {
   ErrorTrap trap(" sur InirtDictio");
   struct Fixe {

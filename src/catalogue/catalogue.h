@@ -17,8 +17,6 @@ struct CatalogueEntry {
   bool OrdreAlpha = true;
   std::int32_t PositionDictio = 1;
   bool DicModifie = false;
-  // The dictionary's addition and selection number files are kept when saving.
-  std::int16_t GardeNumeros = 0;
 };
 
 class Catalogue {
@@ -28,7 +26,6 @@ class Catalogue {
   CatalogueEntry& operator[](int i);
   const CatalogueEntry& operator[](int i) const;
   void Inserer(int avant, CatalogueEntry e);
-  void Supprimer(int i);
 
   std::int16_t NombreHistoire = 0;
   std::string LettresUtilisees;

@@ -47,11 +47,9 @@ void SauvegardeDic(Catalogue& c, const std::string& dossierDictio, int numero, D
   } else if (FichierExistant(nomfic)) {
     CopierFichier(nomfic, bak);
   }
-  if (e.GardeNumeros == 0) {
-    for (const char* prefixe : {"ajout", "s\xE9lection"}) {
-      const std::string numeros = dossierDictio + prefixe + NomFichSeul(nomfic);
-      if (FichierExistant(numeros)) SupprimerFichier(numeros);
-    }
+  for (const char* prefixe : {"ajout", "s\xE9lection"}) {
+    const std::string numeros = dossierDictio + prefixe + NomFichSeul(nomfic);
+    if (FichierExistant(numeros)) SupprimerFichier(numeros);
   }
 }
 

@@ -9,7 +9,6 @@ struct Reglages {
   std::string DossierProgramme;  // always ends with a folder separator
   std::string DossierDictio;
   std::string FichierConfig;
-  std::string FichierTravail;
   std::string FichierBlocNote;
   std::string PoliceNom = "Courier";
   std::string PoliceTaille = "10";

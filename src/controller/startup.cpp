@@ -22,7 +22,6 @@ void Chargement(Form& f, const std::string& dossierProgramme) {
   Reglages& r = f.reglages;
   r.DossierProgramme = ajoutbackslash(dossierProgramme);
   r.FichierConfig = r.DossierProgramme + "lex301.INI";
-  r.FichierTravail = r.DossierProgramme + "travail.txt";
   r.DossierDictio = r.DossierProgramme;
   r.FichierBlocNote = r.DossierProgramme + "blocnote.txt";
   r.PoliceNom = "Courier";

@@ -23,7 +23,6 @@ class RegistreCommandes {
     auto it = commandes_.find(id);
     return it == commandes_.end() ? nullptr : &it->second;
   }
-  const std::map<MenuId, Commande>& Toutes() const { return commandes_; }
 
  private:
   std::map<MenuId, Commande> commandes_;

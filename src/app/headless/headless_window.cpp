@@ -89,11 +89,6 @@ void HeadlessWindow::SetFont(const Police& police) {
   out_ << "{\"ev\":\"font\",\"name\":" << Json(police.nom) << ",\"size\":" << police.taille << "}\n";
 }
 
-bool HeadlessWindow::MenuEnabled(MenuId id) const {
-  auto it = disabled_.find(id);
-  return it == disabled_.end() || !it->second;
-}
-
 bool HeadlessWindow::ButtonVisible(Bouton b) const {
   auto it = hidden_.find(b);
   return it == hidden_.end() || !it->second;

@@ -40,7 +40,6 @@ class HeadlessWindow final : public Fenetre, public Dialogues {
   // The journal: every message line, message box text and input prompt, and the beeps.
   std::vector<std::string> messages, boxes, prompts;
   int beeps = 0;
-  bool MenuEnabled(MenuId id) const;
   const std::string& Title() const { return title_; }
   const std::string& Message() const { return message_; }
   bool ButtonVisible(Bouton b) const;
@@ -64,7 +63,8 @@ class HeadlessWindow final : public Fenetre, public Dialogues {
   void SetButtonCaption(Bouton b, const std::string& t) override { captions_[b] = t; }
   std::string GetButtonCaption(Bouton b) const;
   void SetButtonVisible(Bouton b, bool v) override { hidden_[b] = !v; }
-  void SetMenuEnabled(MenuId id, bool a) override { disabled_[id] = !a; }
+  // Which entries are greyed is the program's own state (its key route reads it there).
+  void SetMenuEnabled(MenuId, bool) override {}
   Reponse MessageBox(const std::string& texte, Boutons boutons, Icone icone, const std::string& titre) override;
   std::string InputBox(const std::string& invite, const std::string& titre, const std::string& defaut) override;
   void Beep() override;
@@ -86,7 +86,6 @@ class HeadlessWindow final : public Fenetre, public Dialogues {
   std::string title_, message_, clipboard_;
   std::map<Bouton, std::string> captions_{{Bouton::CmdDic, "Index"}, {Bouton::CmdQuitter, "&Quitter"}};
   std::map<Bouton, bool> hidden_;
-  std::map<MenuId, bool> disabled_;
 };
 
 // A JSON string literal (UTF-8) of Windows-1252 text.
