@@ -18,8 +18,11 @@ void TextField::SetCaret(std::size_t p) {
   length_ = 0;
 }
 
+// Only CR LF ends a line, as the program counts lines: a lone LF is a character of its line.
+bool TextField::FinDeLigneAvant(std::size_t p) const { return p >= 2 && text_[p - 2] == '\r' && text_[p - 1] == '\n'; }
+
 std::size_t TextField::LineStart(std::size_t p) const {
-  while (p > 0 && text_[p - 1] != '\n') --p;
+  while (p > 0 && !FinDeLigneAvant(p)) --p;
   return p;
 }
 
@@ -29,7 +32,9 @@ std::size_t TextField::LineEnd(std::size_t p) const {
 }
 
 std::size_t TextField::Line() const {
-  return static_cast<std::size_t>(std::count(text_.begin(), text_.begin() + static_cast<long>(caret_), '\n')) + 1;
+  std::size_t n = 1;
+  for (std::size_t p = text_.find("\r\n"); p != std::string::npos && p + 2 <= caret_; p = text_.find("\r\n", p + 2)) ++n;
+  return n;
 }
 
 std::size_t TextField::Column() const { return caret_ - LineStart(caret_) + 1; }

@@ -30,6 +30,7 @@ class TextField {
   void Key(int code, int shift, char ch);
 
  private:
+  bool FinDeLigneAvant(std::size_t p) const;
   std::size_t LineStart(std::size_t p) const;
   std::size_t LineEnd(std::size_t p) const;
   void MoveLines(long delta);
