@@ -137,3 +137,34 @@ TEST(Catalogue, BadConfigurationFilesStartAnyway) {
     EXPECT_TRUE(s.ui.quit);
   }
 }
+
+TEST(Catalogue, NamesThatLeadOutOfTheFolderAreRefusedSaidAndDropped) {
+  Demarrage s;
+  s.Charge();
+  s.Ferme();
+  auto lignes = LireLignes(s.d.Chemin("lex301.INI"));
+  const std::size_t avant = lignes.size();
+  lignes[8] = "2147483647,11";  // a history row that once overflowed on display
+  for (const char* l : {"1,txt,../../etc/passwd,P", "1,txt,sous/dossier,S", "1,txt,C:mot,C", "1,../,Bon nom,B",
+                        "1,txt,tab\there,T"})
+    lignes.emplace_back(l);
+  lignes.push_back("1,txt," + std::string(1 << 20, 'n') + ",N");
+  lignes.emplace_back("1,txt,Permis,Q");
+  EcrireLignes(s.d.Chemin("lex301.INI"), lignes);
+
+  Demarrage t;
+  t.d.Ecrire("lex301.INI", s.d.Lire("lex301.INI"));
+  t.Charge();
+  ASSERT_EQ(t.ui.boxes.size(), 6u);
+  EXPECT_EQ(t.ui.boxes[0], "Ligne " + std::to_string(avant + 1) +
+                               " de lex301.INI ignor\xE9" "e : le nom \xAB ../../etc/passwd \xBB contient un s\xE9parateur de dossier.");
+  EXPECT_NE(t.ui.boxes[3].find("le suffixe"), std::string::npos);
+  EXPECT_NE(t.ui.boxes[4].find("caract\xE8re de contr\xF4le"), std::string::npos);
+  EXPECT_NE(t.ui.boxes[5].find("est trop long"), std::string::npos);
+  EXPECT_FALSE(t.ui.quit);
+  // The file no longer holds them; the good line stays.
+  const auto relues = LireLignes(t.d.Chemin("lex301.INI"));
+  ASSERT_EQ(relues.size(), avant + 1);
+  EXPECT_EQ(relues.back(), "1,txt,Permis,Q");
+  EXPECT_EQ(relues[8], "1073741824,11");
+}

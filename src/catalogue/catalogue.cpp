@@ -65,7 +65,18 @@ void InitDictio(Catalogue& c, const std::string& dossierDictio) {
   }
 }
 
-void LireLigneCatalogue(Catalogue& c, std::string_view l) {
+std::string DefautDeNom(std::string_view nom) {
+  if (nom.empty()) return "est vide";
+  if (nom.size() > kLongueurNomMax) return "est trop long";
+  if (nom.find_first_of("/\\") != std::string_view::npos) return "contient un s\xE9parateur de dossier";
+  if (nom.find("..") != std::string_view::npos) return "contient \"..\"";
+  if (nom.find(':') != std::string_view::npos) return "contient un nom de lecteur";
+  for (char ch : nom)
+    if (static_cast<unsigned char>(ch) < 32) return "contient un caract\xE8re de contr\xF4le";
+  return {};
+}
+
+std::string LireLigneCatalogue(Catalogue& c, std::string_view l) {
   CatalogueEntry e;
   auto p = l.find(',');
   e.PositionDictio = Val(l.substr(0, p));
@@ -90,7 +101,16 @@ void LireLigneCatalogue(Catalogue& c, std::string_view l) {
     }
   }
   e.NomFichier = e.NomDictio;
+  for (const std::string* nom : {&e.NomDictio, &e.Suffixe})
+    if (std::string defaut = DefautDeNom(*nom); !defaut.empty()) {
+      // Quoted as far as it can be shown on one line of a message box.
+      std::string montre = nom->substr(0, 60);
+      for (char& ch : montre)
+        if (static_cast<unsigned char>(ch) < 32) ch = '?';
+      return (nom == &e.Suffixe ? "le suffixe \xAB " : "le nom \xAB ") + montre + " \xBB " + defaut;
+    }
   c.Inserer(c.NombreDictio(), std::move(e));
+  return {};
 }
 
 std::string LigneCatalogue(const CatalogueEntry& e) {

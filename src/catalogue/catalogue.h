@@ -37,8 +37,14 @@ class Catalogue {
 
 // The built-in entries 1..9 and "BLOC NOTE" (the catalogue is rebuilt from scratch).
 void InitDictio(Catalogue& c, const std::string& dossierDictio);
-// One configuration line after line 14: a new entry placed just before "BLOC NOTE".
-void LireLigneCatalogue(Catalogue& c, std::string_view ligne);
+// One configuration line after line 14: a new entry placed just before "BLOC NOTE". Names
+// become file names in the dictionaries' folder and nowhere else: a line whose name or suffix
+// could lead out of it is refused, and the French reason is returned (empty when accepted).
+std::string LireLigneCatalogue(Catalogue& c, std::string_view ligne);
+// Why `nom` cannot name a file of the dictionaries' folder, in French; empty when it can.
+std::string DefautDeNom(std::string_view nom);
+// The longest name the catalogue takes.
+inline constexpr std::size_t kLongueurNomMax = 255;
 // The configuration line of an added entry.
 std::string LigneCatalogue(const CatalogueEntry& e);
 // Display lines in one column, and the call letters in use.

@@ -26,21 +26,28 @@ std::vector<std::string> LignesUsine(const std::string& dossierProgramme) {
   return l;
 }
 
-void LireConfig(Catalogue& c, Reglages& r, std::int16_t& rangCourant) {
+namespace {
+std::int32_t Position(std::string_view texte) { return std::clamp(Val(texte), 1, kPositionMax); }
+}  // namespace
+
+std::vector<std::string> LireConfig(Catalogue& c, Reglages& r, std::int16_t& rangCourant) {
   const std::vector<std::string> lignes = LireLignes(r.FichierConfig);
+  std::vector<std::string> refus;
+  const std::string fichier = NomFichSeul(r.FichierConfig);
+  int enTrop = 0;
   for (std::size_t k = 0; k < lignes.size(); ++k) {
     const int n = static_cast<int>(k + 1);
     const std::string& l = lignes[k];
     const int nombre = c.NombreDictio();
     if (n <= 8) {
-      c[n].PositionDictio = Val(l);
+      c[n].PositionDictio = Position(l);
     } else if (n == 9) {
       auto virgule = l.find(',');
-      c[9].PositionDictio = Val(l.substr(0, virgule));
+      c[9].PositionDictio = Position(l.substr(0, virgule));
       c.NombreHistoire = static_cast<std::int16_t>(
           virgule == std::string::npos ? 0 : std::clamp(Val(l.substr(virgule + 1)), 0, 10000));
     } else if (n == nombre) {
-      c[nombre].PositionDictio = Val(l);
+      c[nombre].PositionDictio = Position(l);
     } else if (n == nombre + 1) {
       r.FichierBlocNote = l;
     } else if (n == nombre + 2) {
@@ -49,12 +56,20 @@ void LireConfig(Catalogue& c, Reglages& r, std::int16_t& rangCourant) {
       r.PoliceTaille = l;
     } else if (n == nombre + 4) {
       rangCourant = static_cast<std::int16_t>(std::clamp(Val(l), -32768, 32767));
-    } else if (n > nombre + 4 && !l.empty() && c.NombreDictio() < 32000) {
-      LireLigneCatalogue(c, l);
+    } else if (n > nombre + 4 && !l.empty()) {
+      if (c.NombreDictio() >= kEntreesMax) {
+        ++enTrop;
+      } else if (std::string defaut = LireLigneCatalogue(c, l); !defaut.empty()) {
+        refus.push_back("Ligne " + std::to_string(n) + " de " + fichier + " ignor\xE9" "e : " + defaut + ".");
+      }
     }
   }
+  if (enTrop > 0)
+    refus.push_back(std::to_string(enTrop) + " dictionnaires de " + fichier + " ignor\xE9s : le catalogue en compte au plus " +
+                    std::to_string(kEntreesMax) + ".");
   // A history group larger than the entries read would reach "BLOC NOTE" and beyond.
   c.NombreHistoire = static_cast<std::int16_t>(std::min<int>(c.NombreHistoire, c.NombreDictio() - 10));
+  return refus;
 }
 
 std::vector<std::string> LignesConfig(const Catalogue& c, const Reglages& r, bool histoire, int dictioCourant) {

@@ -30,7 +30,7 @@ void Chargement(Form& f, const std::string& dossierProgramme) {
 
   InitDictio(f.catalogue, r.DossierDictio);
   if (!FichierExistant(r.FichierConfig)) EcrireLignes(r.FichierConfig, LignesUsine(r.DossierProgramme));
-  LireConfig(f.catalogue, r, f.fenetre.DictioCourant);
+  const std::vector<std::string> refus = LireConfig(f.catalogue, r, f.fenetre.DictioCourant);
   AjoutLettreAppelDictio(f.catalogue);
 
   f.ui.SetFont(PoliceReglee(r));
@@ -43,6 +43,10 @@ void Chargement(Form& f, const std::string& dossierProgramme) {
     f.fenetre.DictioCourant = static_cast<std::int16_t>(EntreeDeLigne(f.catalogue, f.fenetre.DictioCourant));
     EntrerListeDictio(f);
   }
+  // What was refused is said, then left out of the file for good.
+  for (const std::string& texte : refus) f.dlg.MessageBox(texte, Boutons::OK, Icone::Exclamation, "Dictionnaires");
+  if (!refus.empty())
+    EcrireLignes(r.FichierConfig, LignesConfig(f.catalogue, r, f.fenetre.ListeHistoire, f.fenetre.DictioCourant));
 }
 
 void quitter(Form& f) {
