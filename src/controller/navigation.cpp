@@ -125,6 +125,12 @@ void BakSpaceIndex(Form& f) {
 void TapeCaractere(Form& f, char c) {
   EtatFenetre& w = f.fenetre;
   if (SurLeCatalogue(w.ModeCourant())) OublieDebutTape(f);
+  // Each letter looks the whole beginning up again: past any key's length it only costs time.
+  constexpr std::size_t kDebutMax = 255;
+  if (w.DebutIndexCherche.size() >= kDebutMax) {
+    f.ui.Beep();
+    return;
+  }
   w.DebutIndexCherche += SansAccentSeul(std::string(1, c));
   w.DebutIndexTape += MajusculeAnsi(c);
   PositionIndex(f);
