@@ -168,3 +168,24 @@ TEST(Catalogue, NamesThatLeadOutOfTheFolderAreRefusedSaidAndDropped) {
   EXPECT_EQ(relues.back(), "1,txt,Permis,Q");
   EXPECT_EQ(relues[8], "1073741824,11");
 }
+
+TEST(Catalogue, ASecondProgramOnTheSameFolderLeavesTheFirstOnesFilesAlone) {
+  Demarrage premier;
+  premier.Charge();
+  const std::string config = premier.d.Lire("lex301.INI");
+  headless::HeadlessWindow ui;
+  Form second(ui, ui);
+  EvChargement(second, premier.d.Dossier());
+  ASSERT_EQ(ui.boxes.size(), 1u);
+  EXPECT_EQ(ui.boxes[0].rfind("Un autre LEX utilise d\xE9j\xE0 le dossier ", 0), 0u);
+  EXPECT_TRUE(ui.quit);
+  EvFermeture(second);
+  EXPECT_EQ(premier.d.Lire("lex301.INI"), config);
+  premier.Ferme();
+  // Once the first has gone, the folder is free again.
+  headless::HeadlessWindow ui3;
+  Form troisieme(ui3, ui3);
+  EvChargement(troisieme, premier.d.Dossier());
+  EXPECT_TRUE(ui3.boxes.empty());
+  EXPECT_FALSE(ui3.quit);
+}

@@ -5,6 +5,7 @@
 
 #include "catalogue/catalogue.h"
 #include "catalogue/settings.h"
+#include "data/folder_lock.h"
 #include "data/open_dictionary.h"
 #include "search/search_state.h"
 #include "selection/selections.h"
@@ -30,6 +31,7 @@ struct Form final : EcranRecherche {
   EtatRecherche recherche;
   Selections selections;
   RegistreCommandes commandes;
+  VerrouDossier verrou;
   // Menu entries the program has disabled; the others are enabled.
   std::map<MenuId, bool> menusInactifs;
 

@@ -23,6 +23,15 @@ void Chargement(Form& f, const std::string& dossierProgramme) {
   r.DossierProgramme = ajoutbackslash(dossierProgramme);
   r.FichierConfig = r.DossierProgramme + "lex301.INI";
   r.DossierDictio = r.DossierProgramme;
+  if (!f.verrou.Prendre(r.DossierProgramme)) {
+    // The other one's files are left as they are: nothing is read, nothing written.
+    f.dlg.MessageBox("Un autre LEX utilise d\xE9j\xE0 le dossier " + r.DossierProgramme +
+                         " : celui-ci se ferme sans toucher \xE0 ses fichiers.",
+                     Boutons::OK, Icone::Exclamation, "Dictionnaires");
+    f.fenetre.Termine = true;
+    f.ui.Quit();
+    throw ProgrammeTermine{};
+  }
   r.FichierBlocNote = r.DossierProgramme + "blocnote.txt";
   r.PoliceNom = "Courier";
   r.PoliceTaille = "10";
@@ -74,6 +83,7 @@ void quitter(Form& f) {
     c[f.fenetre.DictioCourant].PositionDictio = f.liste.NumeroDictio(IndexAbsolu(f));
   EcrireLignes(f.reglages.FichierConfig,
                LignesConfig(c, f.reglages, f.fenetre.ListeHistoire, f.fenetre.DictioCourant));
+  f.verrou.Rendre();
   f.fenetre.Termine = true;
   f.ui.Quit();
   throw ProgrammeTermine{};
