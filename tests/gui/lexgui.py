@@ -139,6 +139,14 @@ def attendre(condition, quoi, delai=DELAI):
         time.sleep(POLL)
 
 
+def attendre_egal(valeur, attendu, quoi, delai=DELAI):
+    """Waits for valeur() to become `attendu`; on time out says what it is instead."""
+    try:
+        attendre(lambda: valeur() == attendu, quoi, delai)
+    except Echec:
+        raise Echec("%s: expected %r, got %r" % (quoi, attendu, valeur())) from None
+
+
 def role(acc):
     try:
         return acc.getRoleName()
@@ -166,6 +174,17 @@ def a_le_focus(acc):
 def ligne_a(acc, offset):
     t = acc.queryText()
     return t.getTextAtOffset(offset, pyatspi.TEXT_BOUNDARY_LINE_START)[0].rstrip("\n")
+
+
+def police(acc):
+    """(family, size in points) of the text at the caret, as a screen reader reads the font:
+    the attributes of the text run over those of the widget. GTK gives a run's size in Pango
+    units (1/1024 point) but the widget's in points."""
+    t = acc.queryText()
+    defaut = t.getDefaultAttributeSet()
+    run = dict(a.split(":", 1) for a in t.getAttributeRun(max(t.caretOffset, 0), False)[0])
+    taille = float(run["size"]) / 1024 if "size" in run else float(defaut.get("size", "0"))
+    return run.get("family-name", defaut.get("family-name")), taille
 
 
 class Fenetre:
@@ -275,6 +294,22 @@ class Fenetre:
                         return d
             return None
         return attendre(cherche, "a dialog saying %r" % texte)
+
+    def focaliser_dialogue(self):
+        """What a window manager does with a dialog it maps: gives it the keyboard focus. Without
+        one, keys still reach a modal dialog through the main window, but its controls never
+        hold the focus, and Tab does not go round them."""
+        def autre():
+            ids = subprocess.run(["xdotool", "search", "--onlyvisible", "--pid", str(self.proc.pid)],
+                                 capture_output=True, text=True, timeout=DELAI).stdout.split()
+            return next((i for i in ids if int(i) != self.xid), None)
+        x = attendre(autre, "the X window of the dialog")
+        subprocess.run(["xdotool", "windowfocus", "--sync", x], check=True, timeout=DELAI)
+
+    def refocaliser(self):
+        """What a window manager does when a dialog it focused goes away: the focus back to the
+        main window."""
+        subprocess.run(["xdotool", "windowfocus", "--sync", str(self.xid)], check=True, timeout=DELAI)
 
     def sans_dialogue(self):
         attendre(lambda: not any(d is not None and d != self.frame and montre(d) for d in self.app)

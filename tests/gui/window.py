@@ -1,12 +1,13 @@
 """The window with real key events: the list at start, a dictionary opened by its call letter,
 moving, an article, a long article in the rich text pane, going back, menu shortcuts taking
 precedence over the field, focus moves, a button, an input box, message boxes and the font
-dialog, and the close box saving the configuration."""
+dialog, the close box saving the configuration, and the font of the configuration at the next
+start. The screen font is the field's, the pane's and the message line's alike."""
 import os
 import sys
 
-from lexgui import (ARTICLES, Fenetre, a_le_focus, attendre, dossier_programme, egal, headless, ligne_longue,
-                    lire_ansi, montre, principal, verifie)
+from lexgui import (ARTICLES, Fenetre, a_le_focus, attendre, attendre_egal, descendants, dossier_programme, egal,
+                    ecrire_ansi, headless, ligne_longue, lire_ansi, montre, police, principal, role, verifie)
 
 
 def boutons_visibles(w):
@@ -39,6 +40,8 @@ def test(lex, lex_headless, racine):
     ligne = w.ligne_curseur()
     verifie(ligne.startswith("ANGLAIS francais") and ligne.endswith(" A"), "caret on the first dictionary: %r" % ligne)
     egal(w.message(), " " + ligne, "message line at start")
+    # The factory font ("Courier", or a fixed-pitch face standing for it) is the message line's too.
+    egal(police(w.label), police(w.txt), "font of the message line at start, the field's")
     verifie(montre(w.txt) and not montre(w.rtb), "txt shown, Rtb hidden at start")
     egal(boutons_visibles(w), ["Index", "Quitter"], "buttons at start")
     verifie(os.path.exists(os.path.join(dossier, "lex301.INI")), "the configuration is created at start")
@@ -47,7 +50,8 @@ def test(lex, lex_headless, racine):
     w.touche("a", "Return")
     w.attendre_titre("ANGLAIS francais")
     w.attendre_ligne("abricot")
-    egal(boutons_visibles(w), ["D\u00e9finition", "Liste", "Quitter"], "buttons in the index")
+    # The buttons change after the page is shown: their state may reach the bus a little later.
+    attendre_egal(lambda: boutons_visibles(w), ["D\u00e9finition", "Liste", "Quitter"], "buttons in the index")
     w.touche("Down")
     w.attendre_ligne("banane")
 
@@ -66,6 +70,7 @@ def test(lex, lex_headless, racine):
     attendre(lambda: montre(w.rtb) and not montre(w.txt), "Rtb shown in place of txt")
     attendre(lambda: a_le_focus(w.rtb), "the focus in Rtb")
     w.attendre_ligne(ligne_longue(1), w.rtb)
+    egal(police(w.rtb), police(w.txt), "font of Rtb, the field's")
     egal(w.rtb.queryText().characterCount, sum(len(l) + 1 for l in ARTICLES[-1]) - 1, "length of the long article")
     w.touche("Down")
     w.attendre_ligne(ligne_longue(2), w.rtb)
@@ -101,24 +106,75 @@ def test(lex, lex_headless, racine):
     w.sans_dialogue()
     w.attendre_ligne("cerise")
 
-    # From the menu bar by its access keys: two message boxes, then the font dialog, whose
-    # choice becomes the field's font.
+    # From the menu bar by its access keys: two message boxes, then the font dialog, which
+    # proposes the field's font; the user tabs to its size and types another one.
+    famille, taille = police(w.txt)
     w.touche("alt+o", "Return")
     w.dialogue("police Courier Taille 10")
     w.touche("Return")
     w.dialogue("Voulez vous modifier la police de l'\u00e9cran")
     w.touche("Return")  # Yes
-    w.dialogue("Size")
-    w.touche("Return")  # the font proposed, which is the field's
+    d = w.dialogue("Size")
+    w.focaliser_dialogue()
+    champ_taille = next(c for c in descendants(d) if role(c) == "spin button")
+    choisir = next(c for c in descendants(d) if role(c) == "push button" and c.name == "Select")
+    w.touche("Tab", "Tab", "Tab", "Tab")  # past the search, the list of faces, the preview, the slider
+    attendre(lambda: a_le_focus(champ_taille), "the focus on the size field")
+    egal(champ_taille.queryValue().currentValue, taille, "size proposed by the font dialog")
+    nouvelle = (famille, taille + 4)
+    w.touche("ctrl+a", *str(int(nouvelle[1])), "Tab", "Tab")
+    attendre(lambda: a_le_focus(choisir), "the focus on the Select button")
+    egal(champ_taille.queryValue().currentValue, nouvelle[1], "size typed in the font dialog")
+    w.touche("Return")
+    w.refocaliser()
     w.sans_dialogue()
-    police = w.txt.queryText().getDefaultAttributeSet()
+
+    # The new size reaches the message line as well as the field, and the field restyled for it
+    # keeps its caret on the line the user heard: Enter opens that word, not a neighbour.
+    attendre_egal(lambda: police(w.txt), nouvelle, "font of txt after the font dialog")
+    egal(police(w.label), nouvelle, "font of the message line after the font dialog")
+    egal(w.ligne_curseur(), "cerise", "caret line after the font dialog")
+    w.touche("Return")
+    w.attendre_titre("cerise")
+    w.touche("Escape")
+    w.attendre_ligne("cerise")
+    # The pane, hidden while it changed, shows the long article in it too.
+    w.touche("Down", "Down")
+    w.attendre_ligne("z\u00e8bre")
+    w.touche("Return")
+    attendre(lambda: montre(w.rtb) and a_le_focus(w.rtb), "Rtb shown with the focus")
+    w.attendre_ligne(ligne_longue(1), w.rtb)
+    egal(police(w.rtb), nouvelle, "font of Rtb after the font dialog")
+    w.touche("Escape")
+    w.attendre_ligne("z\u00e8bre")
+    w.touche("Up", "Up")
+    w.attendre_ligne("cerise")
 
     # The close box ends the program, which saves the entry it was on and the font.
     egal(lire_ansi(os.path.join(dossier, "lex301.INI"))[0], " 1", "saved position before closing")
     w.fermer()
-    lignes = lire_ansi(os.path.join(dossier, "lex301.INI"))
+    ini = os.path.join(dossier, "lex301.INI")
+    lignes = lire_ansi(ini)
     egal(lignes[0], " 3", "saved position of ANGLAIS francais (cerise)")
-    egal(lignes[11:13], [police.get("family-name"), police.get("size")], "font lines of the configuration")
+    egal(lignes[11:13], [famille, str(int(nouvelle[1]))], "font lines of the configuration")
+
+    # A font named in the configuration (here edited by hand, in a face and a size that are
+    # neither the factory's nor the last one chosen) is from the start the font of the field,
+    # of the message line and of the pane.
+    w.arreter_ecoute()
+    lignes[11:13] = ["DejaVu Serif", "13"]
+    ecrire_ansi(ini, lignes[:-1])
+    w = Fenetre(dossier)
+    egal(police(w.txt), ("DejaVu Serif", 13), "font of txt from the configuration")
+    egal(police(w.label), ("DejaVu Serif", 13), "font of the message line from the configuration")
+    w.touche("a", "Return")
+    w.attendre_titre("ANGLAIS francais")
+    w.touche("z", "Return")
+    w.attendre_titre("z\u00e8bre")
+    attendre(lambda: montre(w.rtb), "Rtb shown")
+    w.attendre_ligne(ligne_longue(1), w.rtb)
+    egal(police(w.rtb), ("DejaVu Serif", 13), "font of Rtb from the configuration")
+    w.fermer()
 
 
 if __name__ == "__main__":
