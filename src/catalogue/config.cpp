@@ -30,8 +30,8 @@ namespace {
 std::int32_t Position(std::string_view texte) { return std::clamp(Val(texte), 1, kPositionMax); }
 }  // namespace
 
-std::vector<std::string> LireConfig(Catalogue& c, Reglages& r, std::int16_t& rangCourant) {
-  const std::vector<std::string> lignes = LireLignes(r.FichierConfig);
+std::vector<std::string> LireConfig(const std::vector<std::string>& lignes, Catalogue& c, Reglages& r,
+                                    std::int16_t& rangCourant) {
   std::vector<std::string> refus;
   const std::string fichier = NomFichSeul(r.FichierConfig);
   int enTrop = 0;

@@ -11,10 +11,12 @@ namespace lex {
 
 // The 26 lines a first start writes.
 std::vector<std::string> LignesUsine(const std::string& dossierProgramme);
-// Reads the configuration file into the catalogue, the settings and the current row of the
-// main list; short files leave the rest as it was. Returns what the user must be told of the
-// lines refused (French, one text a line), after which the file is to be written again.
-std::vector<std::string> LireConfig(Catalogue& c, Reglages& r, std::int16_t& rangCourant);
+// Reads the lines of the configuration file into the catalogue, the settings and the current
+// row of the main list; short files leave the rest as it was. Returns what the user must be
+// told of the lines refused (French, one text a line), after which the file is to be written
+// again.
+std::vector<std::string> LireConfig(const std::vector<std::string>& lignes, Catalogue& c, Reglages& r,
+                                    std::int16_t& rangCourant);
 // Catalogue entries beyond this are refused: the lists and the file count them in 16 bits.
 inline constexpr int kEntreesMax = 32000;
 // A saved position beyond this is taken as the last entry's.

@@ -38,8 +38,9 @@ void Chargement(Form& f, const std::string& dossierProgramme) {
   f.fenetre.DictioCourant = 1;
 
   InitDictio(f.catalogue, r.DossierDictio);
-  if (!FichierExistant(r.FichierConfig)) EcrireLignes(r.FichierConfig, LignesUsine(r.DossierProgramme));
-  const std::vector<std::string> refus = LireConfig(f.catalogue, r, f.fenetre.DictioCourant);
+  const bool premiere = !FichierExistant(r.FichierConfig);
+  const std::vector<std::string> lignes = premiere ? LignesUsine(r.DossierProgramme) : LireLignes(r.FichierConfig);
+  const std::vector<std::string> refus = LireConfig(lignes, f.catalogue, r, f.fenetre.DictioCourant);
   AjoutLettreAppelDictio(f.catalogue);
 
   f.ui.SetFont(PoliceReglee(r));
@@ -54,7 +55,8 @@ void Chargement(Form& f, const std::string& dossierProgramme) {
   }
   // What was refused is said, then left out of the file for good.
   for (const std::string& texte : refus) f.dlg.MessageBox(texte, Boutons::OK, Icone::Exclamation, "Dictionnaires");
-  if (!refus.empty())
+  if (premiere) EcrireLignes(r.FichierConfig, lignes);
+  else if (!refus.empty())
     EcrireLignes(r.FichierConfig, LignesConfig(f.catalogue, r, f.fenetre.ListeHistoire, f.fenetre.DictioCourant));
 }
 
