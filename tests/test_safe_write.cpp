@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <chrono>
 #include <filesystem>
 #include <functional>
 #include <vector>
@@ -146,6 +147,35 @@ TEST(SafeWrite, RealFailuresAreNamedAndLeaveTheTargetAlone) {
             std::pair(70, "Impossible d'\xE9" "crire le fichier " + d.Chemin("lecture.txt") + " : permission refus\xE9" "e"));
   EXPECT_EQ(d.Lire("lecture.txt"), "garde");
   EXPECT_EQ(Noms(d), (std::vector<std::string>{"dossier", "lecture.txt"}));
+}
+
+// The program's own writes go through it: the configuration (lines) and the ".bak" copies.
+TEST(SafeWrite, LinesAndCopiesAreSafeWrites) {
+  test::DossierTemp d;
+  d.Ecrire("lex301.INI", "ancien\r\n");
+  auto lignes = [&] { EcrireLignes(d.Chemin("lex301.INI"), {" 1", "", "Courier"}); };
+  EXPECT_EQ(EchoueAChaqueEtape(d, "lex301.INI", lignes, 61), 3);
+  EXPECT_EQ(d.Lire("lex301.INI"), " 1\r\n\r\nCourier\r\n");
+
+  const std::string gros = std::string(3 << 20, 'a') + "fin";  // several blocks
+  d.Ecrire("lex.eng", gros);
+  const auto date = fs::last_write_time(CheminNatif(d.Chemin("lex.eng"))) - std::chrono::hours(5);
+  fs::last_write_time(CheminNatif(d.Chemin("lex.eng")), date);
+  d.Ecrire("lex.eng.bak", "ancienne copie");
+  auto copie = [&] { CopierFichier(d.Chemin("lex.eng"), d.Chemin("lex.eng.bak")); };
+  EXPECT_EQ(EchoueAChaqueEtape(d, "lex.eng.bak", copie, 61), 6);
+  EXPECT_EQ(d.Lire("lex.eng.bak"), gros);
+  // The copy keeps its source's date: an index made for one stays current for the other.
+  EXPECT_EQ(fs::last_write_time(CheminNatif(d.Chemin("lex.eng.bak"))), date);
+  // A missing source is a read error, not a write error, and nothing is written.
+  try {
+    CopierFichier(d.Chemin("absent"), d.Chemin("lex.eng.bak"));
+    ADD_FAILURE();
+  } catch (const LexError& e) {
+    EXPECT_EQ(e.numero(), 53);
+    EXPECT_EQ(dynamic_cast<const ErreurEcriture*>(&e), nullptr);
+  }
+  EXPECT_EQ(d.Lire("lex.eng.bak"), gros);
 }
 
 #ifndef _WIN32
