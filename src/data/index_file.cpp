@@ -184,7 +184,6 @@ void ConstruireIndex(const FichiersIndex& f, bool ordreAlpha, IndexTable& table,
     if (ecriture.valid()) ecriture.get();  // a failed write is raised here
   };
   std::size_t enBloc = 0;
-  std::vector<char> tamponCle(256);
   std::string_view cle;
   std::int32_t nombre = 0;
   int compteurBip = 0;
@@ -193,8 +192,7 @@ void ConstruireIndex(const FichiersIndex& f, bool ordreAlpha, IndexTable& table,
   std::int64_t offset = 0;
   while (lecteur.Suivante(ligne, offset)) {
     ++nombre;
-    if (tamponCle.size() < 2 * ligne.size()) tamponCle.resize(2 * ligne.size());
-    cle = {tamponCle.data(), SansaccentEpureVers(ligne, tamponCle.data())};
+    cle = table.AjouterPlie(ligne, Offset32(offset), SansaccentEpureVers);
     char* r = blocs[courant].data() + enBloc * kTailleEnreg;
     PoseChamp(r, ligne);
     PoseChamp(r + kTailleChamp, cle);
@@ -206,7 +204,6 @@ void ConstruireIndex(const FichiersIndex& f, bool ordreAlpha, IndexTable& table,
       courant ^= 1;
       enBloc = 0;
     }
-    table.Ajouter(ligne, cle, Offset32(offset));
     if (++compteurBip == 25000) {
       bip();
       compteurBip = 0;
