@@ -278,3 +278,18 @@ TEST(IndexFile, AHugeLetterFileIsNotRead) {
   EXPECT_EQ(l('A', '@', '@'), 42);
   EXPECT_EQ(t.NombreArticle(), 0);
 }
+
+// Found by fuzzing: the reader loaded an index whose record 2 had text in its index field,
+// a file this program never writes and would not recognise as its own.
+TEST(IndexFile, OnlyAFileOfOurShapeIsLoaded) {
+  Index x;
+  x.Construit("chat\r\ncat\r\n\r\nchien\r\ndog\r\n");
+  const std::string bon = x.d.Lire("index.dic.txt");
+  IndexTable t;
+  TableLettre l;
+  for (const std::string& autre : {bon.substr(0, 144 + 60) + "\x08\xE8" + bon.substr(144 + 62), bon + "x"}) {
+    x.d.Ecrire("index.dic.txt", autre);
+    EXPECT_FALSE(EstFichierIndex(x.f.index));
+    EXPECT_EQ(LireIndex(x.f, t, l), EtatIndex::Perime);
+  }
+}

@@ -253,6 +253,19 @@ EtatDictio LireEtatDictio(std::string_view nom) {
 
 namespace {
 
+// The header of an index file of any version, as this program writes it: a version mark of
+// digits and dots, record 2's index field blank, whole records, as many as counted.
+bool EnTeteDuProgramme(const char* tete, std::int64_t longueur) {
+  if (longueur % static_cast<std::int64_t>(kTailleEnreg) != 0) return false;
+  const std::string_view version = SansBlancsFinaux(tete, kTailleChamp);
+  if (version.empty() || version.find_first_not_of("0123456789.") != std::string_view::npos) return false;
+  if (!SansBlancsFinaux(tete + kTailleEnreg, kTailleChamp).empty()) return false;
+  const std::int32_t nombre = LitValeur(tete + 2 * kTailleChamp);
+  const std::int32_t taille = LitValeur(tete + kTailleEnreg + 2 * kTailleChamp);
+  return nombre >= 0 && taille >= 0 &&
+         (static_cast<std::int64_t>(nombre) + 2) * static_cast<std::int64_t>(kTailleEnreg) <= longueur;
+}
+
 EtatIndex LitIndex(const FichiersIndex& f, const EtatDictio& dictio, IndexTable& table, TableLettre& lettres) {
   table.Vider();
   if (VersionIndex(f.index) != kVersionIndex) return EtatIndex::Version;
@@ -260,13 +273,11 @@ EtatIndex LitIndex(const FichiersIndex& f, const EtatDictio& dictio, IndexTable&
   if (!idx) return EtatIndex::Perime;
   char tete[2 * kTailleEnreg];
   if (std::fread(tete, 1, sizeof tete, idx.get()) != sizeof tete) return EtatIndex::Perime;
+  if (!EnTeteDuProgramme(tete, LongueurFichier(f.index))) return EtatIndex::Perime;
   const std::int32_t nombre = LitValeur(tete + 2 * kTailleChamp);
   const std::int32_t taille = LitValeur(tete + kTailleEnreg + 2 * kTailleChamp);
   const std::string_view date = SansBlancsFinaux(tete + kTailleEnreg + kTailleChamp, kTailleChamp);
-  if (taille != dictio.taille || date != TexteDate(dictio.date) || nombre < 0) return EtatIndex::Perime;
-  const std::int64_t longueurIndex = LongueurFichier(f.index);
-  if (longueurIndex < (static_cast<std::int64_t>(nombre) + 2) * static_cast<std::int64_t>(kTailleEnreg))
-    return EtatIndex::Perime;
+  if (taille != dictio.taille || date != TexteDate(dictio.date)) return EtatIndex::Perime;
 
   table.Reserver(static_cast<std::size_t>(nombre));
   constexpr std::size_t kParLecture = 8192;
@@ -312,17 +323,10 @@ EtatIndex LireIndex(const FichiersIndex& f, std::int64_t tailleDictio, IndexTabl
 
 bool EstFichierIndex(std::string_view nom) {
   const std::int64_t longueur = LongueurFichier(nom);
-  if (longueur < static_cast<std::int64_t>(2 * kTailleEnreg) || longueur % kTailleEnreg != 0) return false;
+  if (longueur < static_cast<std::int64_t>(2 * kTailleEnreg)) return false;
   Fichier f = OuvrirSiPossible(nom, "rb");
   char tete[2 * kTailleEnreg];
-  if (!f || std::fread(tete, 1, sizeof tete, f.get()) != sizeof tete) return false;
-  const std::string_view version = SansBlancsFinaux(tete, kTailleChamp);
-  if (version.empty() || version.find_first_not_of("0123456789.") != std::string_view::npos) return false;
-  if (!SansBlancsFinaux(tete + kTailleEnreg, kTailleChamp).empty()) return false;
-  const std::int32_t nombre = LitValeur(tete + 2 * kTailleChamp);
-  const std::int32_t taille = LitValeur(tete + kTailleEnreg + 2 * kTailleChamp);
-  return nombre >= 0 && taille >= 0 &&
-         (static_cast<std::int64_t>(nombre) + 2) * static_cast<std::int64_t>(kTailleEnreg) <= longueur;
+  return f && std::fread(tete, 1, sizeof tete, f.get()) == sizeof tete && EnTeteDuProgramme(tete, longueur);
 }
 
 }  // namespace lex
