@@ -4,6 +4,7 @@
 #include <cstring>
 
 #include "base/error.h"
+#include "data/huge_pages.h"
 
 namespace lex {
 
@@ -12,12 +13,15 @@ void IndexTable::Vider() { *this = IndexTable(); }
 void IndexTable::Reserver(std::size_t entrees) {
   refs_.reserve(entrees);
   positions_.reserve(entrees + 1);
+  ConseilleGrandesPages(refs_.data(), refs_.capacity() * sizeof(Ref));
+  ConseilleGrandesPages(positions_.data(), positions_.capacity() * sizeof(std::int32_t));
 }
 
 char* IndexTable::Place(std::size_t n) {
   if (n > libre_) {
     tailleBloc_ = std::max(kBloc, n);
     blocs_.emplace_back(new char[tailleBloc_]);
+    ConseilleGrandesPages(blocs_.back().get(), tailleBloc_);
     libre_ = tailleBloc_;
   }
   return blocs_.back().get() + (tailleBloc_ - libre_);
