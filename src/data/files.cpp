@@ -155,12 +155,7 @@ std::vector<std::string> LireLignes(std::string_view nom) {
 }
 
 void EcrireLignes(std::string_view nom, const std::vector<std::string>& lignes) {
-  std::size_t taille = 0;
-  for (const auto& l : lignes) taille += l.size() + 2;
-  std::string tout;
-  tout.reserve(taille);
-  for (const auto& l : lignes) tout.append(l).append("\r\n");
-  EcrireFichierSur(nom, tout, Donnees::Utilisateur);
+  EcrireLignesSur(nom, lignes, Donnees::Utilisateur);
 }
 
 std::string LireOctets(std::string_view nom, std::int64_t debut, std::int64_t longueur) {

@@ -119,6 +119,15 @@ void EcrireFichierSur(std::string_view nom, std::string_view octets, Donnees gen
   e.Valider();
 }
 
+void EcrireLignesSur(std::string_view nom, const std::vector<std::string>& lignes, Donnees genre) {
+  std::size_t taille = 0;
+  for (const auto& l : lignes) taille += l.size() + 2;
+  std::string tout;
+  tout.reserve(taille);
+  for (const auto& l : lignes) tout.append(l).append("\r\n");
+  EcrireFichierSur(nom, tout, genre);
+}
+
 bool EstNomTemporaire(std::string_view n) {
   if (n.size() != kDebutTemp.size() + kChiffresTemp + kFinTemp.size() || !n.starts_with(kDebutTemp) ||
       !n.ends_with(kFinTemp))

@@ -9,6 +9,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "data/system_file.h"
 
@@ -64,6 +65,8 @@ class EcritureSure {
 
 // Replaces the file `nom` with exactly these bytes.
 void EcrireFichierSur(std::string_view nom, std::string_view octets, Donnees genre);
+// Replaces the file `nom` with these lines, each followed by CR LF.
+void EcrireLignesSur(std::string_view nom, const std::vector<std::string>& lignes, Donnees genre);
 
 // Whether a file name (without folder) is one the safe write gives its temporary files.
 bool EstNomTemporaire(std::string_view nomSeul);
