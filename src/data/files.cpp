@@ -87,19 +87,6 @@ Fichier OuvrirSiPossible(std::string_view nom, const char* mode) {
   return Fichier(std::fopen(CheminNatif(nom).c_str(), mode));
 }
 
-namespace {
-[[noreturn]] void ErreurEcriture() { ErreurFichier(std::error_code(errno ? errno : ENOSPC, std::generic_category())); }
-}  // namespace
-
-void EcrireOctets(std::FILE* f, const char* p, std::size_t n) {
-  errno = 0;
-  if (n && std::fwrite(p, 1, n, f) != n) ErreurEcriture();
-}
-
-void ViderFichier(std::FILE* f) {
-  if (std::fflush(f) != 0) ErreurEcriture();
-}
-
 void CopierFichier(std::string_view source, std::string_view destination) {
   Fichier f = OuvrirFichier(source, "rb");
   std::error_code ec;

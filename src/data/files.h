@@ -58,7 +58,7 @@ std::string LireOctets(std::string_view nom, std::int64_t debut, std::int64_t lo
 // Maps an errno-style failure to the classic error number.
 [[noreturn]] void ErreurFichier(const std::error_code& ec);
 
-// Byte-exact access for the files written by blocks (index and letter files).
+// Byte-exact reading. Files are written only through data/safe_write.h.
 struct FermeFichier {
   void operator()(std::FILE* f) const { std::fclose(f); }
 };
@@ -67,8 +67,5 @@ using Fichier = std::unique_ptr<std::FILE, FermeFichier>;
 Fichier OuvrirFichier(std::string_view nom, const char* mode);
 // Opens, or gives nullptr without a word.
 Fichier OuvrirSiPossible(std::string_view nom, const char* mode);
-// Writes all of it and flushes, or raises the classic error (61 for a full disk).
-void EcrireOctets(std::FILE* f, const char* p, std::size_t n);
-void ViderFichier(std::FILE* f);
 
 }  // namespace lex
