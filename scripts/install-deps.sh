@@ -1,15 +1,19 @@
 #!/usr/bin/env bash
 # Installs, with apt-get, the Debian packages that building and testing LEX need, and only
-# those that are missing. Usage: scripts/install-deps.sh [build|test|all]
+# those that are missing. Usage: scripts/install-deps.sh [build|test|fuzz|all]
 set -euo pipefail
 what=${1:-all}
 build=(g++ cmake make pkg-config libgtest-dev libgmock-dev libwxgtk3.2-dev libgtk-3-dev)
 test=(xvfb xauth x11-utils xdotool dbus-daemon dbus-x11 at-spi2-core python3 python3-pyatspi python3-gi
       orca speech-dispatcher speech-dispatcher-espeak-ng espeak-ng)
+# libFuzzer and the sanitizer runtimes come with clang's runtime package.
+fuzz=(clang libclang-rt-dev)
 case "$what" in
   build) want=("${build[@]}") ;;
-  test|all) want=("${build[@]}" "${test[@]}") ;;
-  *) echo "usage: $0 [build|test|all]" >&2; exit 2 ;;
+  test) want=("${build[@]}" "${test[@]}") ;;
+  fuzz) want=("${build[@]}" "${fuzz[@]}") ;;
+  all) want=("${build[@]}" "${test[@]}" "${fuzz[@]}") ;;
+  *) echo "usage: $0 [build|test|fuzz|all]" >&2; exit 2 ;;
 esac
 missing=()
 for p in "${want[@]}"; do

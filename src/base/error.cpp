@@ -21,6 +21,7 @@ std::string LexError::Texte(int numero) {
     case 9: return "L'indice n'appartient pas \xE0 la s\xE9lection";
     case 52: return "Nom ou num\xE9ro de fichier incorrect";
     case 53: return "Fichier introuvable";
+    case 57: return "Erreur d'entr\xE9" "e/sortie de p\xE9riph\xE9rique";
     case 61: return "Disque plein";
     case 62: return "Lecture apr\xE8s la fin du fichier";
     case 70: return "Permission refus\xE9" "e";

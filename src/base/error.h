@@ -12,8 +12,8 @@ namespace lex {
 // A run-time error with its classic number and French text:
 // 5 "Argument ou appel de procédure incorrect", 7 "Mémoire insuffisante",
 // 9 "L'indice n'appartient pas à la sélection", 52 "Nom ou numéro de fichier incorrect",
-// 53 "Fichier introuvable", 61 "Disque plein", 62 "Lecture après la fin du fichier",
-// 70 "Permission refusée", 76 "Chemin d'accès introuvable".
+// 53 "Fichier introuvable", 57 "Erreur d'entrée/sortie de périphérique", 61 "Disque plein",
+// 62 "Lecture après la fin du fichier", 70 "Permission refusée", 76 "Chemin d'accès introuvable".
 class LexError : public std::runtime_error {
  public:
   explicit LexError(int numero);

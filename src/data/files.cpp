@@ -1,5 +1,6 @@
 #include "data/files.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <cstdio>
 #include <fstream>
@@ -7,6 +8,7 @@
 
 #include "base/encoding.h"
 #include "base/error.h"
+#include "data/safe_write.h"
 
 namespace lex {
 namespace fs = std::filesystem;
@@ -85,23 +87,18 @@ Fichier OuvrirSiPossible(std::string_view nom, const char* mode) {
   return Fichier(std::fopen(CheminNatif(nom).c_str(), mode));
 }
 
-namespace {
-[[noreturn]] void ErreurEcriture() { ErreurFichier(std::error_code(errno ? errno : ENOSPC, std::generic_category())); }
-}  // namespace
-
-void EcrireOctets(std::FILE* f, const char* p, std::size_t n) {
-  errno = 0;
-  if (n && std::fwrite(p, 1, n, f) != n) ErreurEcriture();
-}
-
-void ViderFichier(std::FILE* f) {
-  if (std::fflush(f) != 0) ErreurEcriture();
-}
-
 void CopierFichier(std::string_view source, std::string_view destination) {
+  Fichier f = OuvrirFichier(source, "rb");
   std::error_code ec;
-  fs::copy_file(CheminNatif(source), CheminNatif(destination), fs::copy_options::overwrite_existing, ec);
-  if (ec) ErreurFichier(ec);
+  const auto date = fs::last_write_time(CheminNatif(source), ec);
+  EcritureSure copie(destination, Donnees::Utilisateur);
+  std::vector<char> tampon(std::size_t{1} << 20);
+  std::size_t n;
+  while ((n = std::fread(tampon.data(), 1, tampon.size(), f.get())) > 0) copie.Ecrire(tampon.data(), n);
+  if (std::ferror(f.get())) Erreur(57);
+  // The copy is the same dictionary: with the same date, its index stays current for it.
+  if (!ec) copie.GarderDate(date);
+  copie.Valider();
 }
 
 void SupprimerFichier(std::string_view nom) {
@@ -110,32 +107,42 @@ void SupprimerFichier(std::string_view nom) {
   if (ec) ErreurFichier(ec);
 }
 
-std::vector<std::string> LireLignes(std::string_view nom) {
-  Fichier f = OuvrirFichier(nom, "rb");
-  std::string tout;
-  char tampon[65536];
-  std::size_t n;
-  while ((n = std::fread(tampon, 1, sizeof tampon, f.get())) > 0) tout.append(tampon, n);
+std::vector<std::string> DecoupeLignes(std::string_view tout) {
   std::vector<std::string> lignes;
   std::size_t debut = 0;
   while (debut < tout.size()) {
     std::size_t fin = tout.find('\n', debut);
-    std::size_t suivant = fin == std::string::npos ? tout.size() : fin + 1;
-    if (fin == std::string::npos) fin = tout.size();
+    std::size_t suivant = fin == std::string_view::npos ? tout.size() : fin + 1;
+    if (fin == std::string_view::npos) fin = tout.size();
     else if (fin > debut && tout[fin - 1] == '\r') --fin;
-    lignes.emplace_back(tout, debut, fin - debut);
+    lignes.emplace_back(tout.substr(debut, fin - debut));
     debut = suivant;
   }
   return lignes;
 }
 
-void EcrireLignes(std::string_view nom, const std::vector<std::string>& lignes) {
-  Fichier f = OuvrirFichier(nom, "wb");
-  for (const auto& l : lignes) {
-    EcrireOctets(f.get(), l.data(), l.size());
-    EcrireOctets(f.get(), "\r\n", 2);
+std::int64_t MemoireLignes(std::string_view tout) {
+  const auto lignes = static_cast<std::int64_t>(std::count(tout.begin(), tout.end(), '\n')) + 1;
+  return static_cast<std::int64_t>(tout.size()) + lignes * static_cast<std::int64_t>(sizeof(std::string));
+}
+
+std::vector<std::string> LireLignes(std::string_view nom) {
+  Fichier f = OuvrirFichier(nom, "rb");
+  if (LongueurFichier(nom) > kMemoireLignes) Erreur(7);
+  std::string tout;
+  char tampon[65536];
+  std::size_t n;
+  while ((n = std::fread(tampon, 1, sizeof tampon, f.get())) > 0) {
+    tout.append(tampon, n);
+    if (static_cast<std::int64_t>(tout.size()) > kMemoireLignes) Erreur(7);
   }
-  ViderFichier(f.get());
+  // Each line costs a string of its own: a file of empty lines takes many times its size.
+  if (MemoireLignes(tout) > kMemoireLignes) Erreur(7);
+  return DecoupeLignes(tout);
+}
+
+void EcrireLignes(std::string_view nom, const std::vector<std::string>& lignes) {
+  EcrireLignesSur(nom, lignes, Donnees::Utilisateur);
 }
 
 std::string LireOctets(std::string_view nom, std::int64_t debut, std::int64_t longueur) {

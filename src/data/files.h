@@ -33,13 +33,23 @@ bool FichierExistant(std::string_view nom);
 // Length in bytes, or -1 when it cannot be read.
 std::int64_t LongueurFichier(std::string_view nom);
 
+// Copies through a safe write (data/safe_write.h), keeping the source's modification time:
+// the destination is the old file or a whole copy, and a failed write raises ErreurEcriture.
 void CopierFichier(std::string_view source, std::string_view destination);
 void SupprimerFichier(std::string_view nom);
 
 // The lines of a text file, each without its line end; a CR before LF belongs to the line
-// end, so LF-only and mixed files read like CR LF ones. Error 53 when the file is missing.
+// end, so LF-only and mixed files read like CR LF ones. Error 53 when the file is missing;
+// error 7 when its lines would take more than kMemoireLignes bytes (a file of empty lines
+// takes many times its size), rather than holding the memory or dropping lines.
 std::vector<std::string> LireLignes(std::string_view nom);
-// Writes each line followed by CR LF, replacing the file.
+inline constexpr std::int64_t kMemoireLignes = std::int64_t{256} << 20;
+// The same cut of text already in memory.
+std::vector<std::string> DecoupeLignes(std::string_view texte);
+// What the lines of `texte` take in memory as strings, in bytes (the estimate behind error 7).
+std::int64_t MemoireLignes(std::string_view texte);
+// Writes each line followed by CR LF, replacing the file through a safe write of the user's
+// data (data/safe_write.h); a failure raises ErreurEcriture and leaves the old file.
 void EcrireLignes(std::string_view nom, const std::vector<std::string>& lignes);
 
 // Reads `longueur` bytes from `debut`; bytes past the end of the file stay blanks.
@@ -48,7 +58,7 @@ std::string LireOctets(std::string_view nom, std::int64_t debut, std::int64_t lo
 // Maps an errno-style failure to the classic error number.
 [[noreturn]] void ErreurFichier(const std::error_code& ec);
 
-// Byte-exact access for the files written by blocks (index and letter files).
+// Byte-exact reading. Files are written only through data/safe_write.h.
 struct FermeFichier {
   void operator()(std::FILE* f) const { std::fclose(f); }
 };
@@ -57,8 +67,5 @@ using Fichier = std::unique_ptr<std::FILE, FermeFichier>;
 Fichier OuvrirFichier(std::string_view nom, const char* mode);
 // Opens, or gives nullptr without a word.
 Fichier OuvrirSiPossible(std::string_view nom, const char* mode);
-// Writes all of it and flushes, or raises the classic error (61 for a full disk).
-void EcrireOctets(std::FILE* f, const char* p, std::size_t n);
-void ViderFichier(std::FILE* f);
 
 }  // namespace lex

@@ -3,16 +3,17 @@
 #include <bit>
 #include <cstdio>
 #include <cstring>
+#include <filesystem>
 #include <future>
 #include <limits>
 #include <memory>
 #include <vector>
 
+#include "base/error.h"
 #include "data/files.h"
 #include "data/folding.h"
 #include "data/index_scanner.h"
-#include "base/numbers.h"
-#include "base/error.h"
+#include "data/safe_write.h"
 
 namespace lex {
 namespace {
@@ -88,6 +89,9 @@ std::int32_t Offset32(std::int64_t v) {
   return static_cast<std::int32_t>(v);
 }
 
+// The dictionary's date as record 2's key field holds it.
+std::string TexteDate(std::int64_t date) { return "T" + std::to_string(date); }
+
 bool EstLettre(char c) { return c >= 'A' && c <= 'Z'; }
 bool EstLettreOuAro(char c) { return c >= '@' && c <= 'Z'; }
 
@@ -154,12 +158,16 @@ void ConstruireIndex(const FichiersIndex& f, bool ordreAlpha, IndexTable& table,
   });
 
   Fichier dic = OuvrirFichier(f.dictio, "rb");
-  Fichier idx = OuvrirFichier(f.index, "wb");
+  // The time is taken before the scan: a change made while it runs makes the index stale.
+  const EtatDictio avant = LireEtatDictio(f.dictio);
+  EcritureSure idx(f.index, Donnees::Reconstructible);
+  // The two header records are written at the end, when the count is known.
   Enreg enreg;
-  enreg.Index(kVersionIndex);
-  EcrireOctets(idx.get(), enreg.octets, kTailleEnreg);
-  enreg.Index("");
-  EcrireOctets(idx.get(), enreg.octets, kTailleEnreg);
+  {
+    char place[2 * kTailleEnreg];
+    std::memset(place, ' ', sizeof place);
+    idx.Ecrire(place, sizeof place);
+  }
 
   table.Vider();
   std::int64_t taille = LongueurFichier(f.dictio);
@@ -169,13 +177,13 @@ void ConstruireIndex(const FichiersIndex& f, bool ordreAlpha, IndexTable& table,
   constexpr std::size_t kParBloc = 8192;
   std::vector<char> blocs[2] = {std::vector<char>(kTailleEnreg * kParBloc), std::vector<char>(kTailleEnreg * kParBloc)};
   int courant = 0;
-  std::future<int> ecriture;  // errno of the write under way, 0 when it went well
+  // Declared after `idx`: if the build fails, the write under way ends before the temporary
+  // file is discarded.
+  std::future<void> ecriture;
   const auto attendEcriture = [&ecriture] {
-    if (!ecriture.valid()) return;
-    if (const int erreur = ecriture.get(); erreur != 0) ErreurFichier(std::error_code(erreur, std::generic_category()));
+    if (ecriture.valid()) ecriture.get();  // a failed write is raised here
   };
   std::size_t enBloc = 0;
-  std::vector<char> tamponCle(256);
   std::string_view cle;
   std::int32_t nombre = 0;
   int compteurBip = 0;
@@ -184,53 +192,44 @@ void ConstruireIndex(const FichiersIndex& f, bool ordreAlpha, IndexTable& table,
   std::int64_t offset = 0;
   while (lecteur.Suivante(ligne, offset)) {
     ++nombre;
-    if (tamponCle.size() < 2 * ligne.size()) tamponCle.resize(2 * ligne.size());
-    cle = {tamponCle.data(), SansaccentEpureVers(ligne, tamponCle.data())};
+    cle = table.AjouterPlie(ligne, Offset32(offset), SansaccentEpureVers);
     char* r = blocs[courant].data() + enBloc * kTailleEnreg;
     PoseChamp(r, ligne);
     PoseChamp(r + kTailleChamp, cle);
     PoseValeur(r + 2 * kTailleChamp, Offset32(offset));
     if (++enBloc == kParBloc) {
       attendEcriture();
-      ecriture = std::async(std::launch::async, [f = idx.get(), d = blocs[courant].data(), n = blocs[courant].size()] {
-        errno = 0;
-        return std::fwrite(d, 1, n, f) == n ? 0 : (errno ? errno : ENOSPC);
-      });
+      ecriture = std::async(std::launch::async,
+                            [&idx, d = blocs[courant].data(), n = blocs[courant].size()] { idx.Ecrire(d, n); });
       courant ^= 1;
       enBloc = 0;
     }
-    table.Ajouter(ligne, cle, Offset32(offset));
     if (++compteurBip == 25000) {
       bip();
       compteurBip = 0;
     }
   }
   attendEcriture();
-  EcrireOctets(idx.get(), blocs[courant].data(), enBloc * kTailleEnreg);
-  // The header records carry the key the record buffer last held.
-  enreg.Cle(cle);
+  if (enBloc) idx.Ecrire(blocs[courant].data(), enBloc * kTailleEnreg);
   dic.reset();
 
   taille = LongueurFichier(f.dictio);
-  if (std::fseek(idx.get(), 0, SEEK_SET) != 0) Erreur(52);
+  char tete[2 * kTailleEnreg];
+  // Record 1 carries the key the record buffer last held; record 2 the date.
+  enreg.Cle(cle);
   enreg.Index(kVersionIndex);
   enreg.Valeur(nombre);
-  EcrireOctets(idx.get(), enreg.octets, kTailleEnreg);
+  std::memcpy(tete, enreg.octets, kTailleEnreg);
   enreg.Index("");
+  enreg.Cle(TexteDate(avant.date));
   enreg.Valeur(Offset32(taille));
-  EcrireOctets(idx.get(), enreg.octets, kTailleEnreg);
-  ViderFichier(idx.get());
-  idx.reset();
+  std::memcpy(tete + kTailleEnreg, enreg.octets, kTailleEnreg);
+  idx.EcrireA(0, tete, sizeof tete);
 
   table.Terminer(Offset32(taille));
   RemplirTableLettre(table, lettres, compteurBip, bip);
-  if (!ordreAlpha) return;
-  std::string lignes;
-  lignes.reserve(TableLettre::kTaille * 8);
-  for (std::int32_t v : lettres.valeurs()) lignes.append(NombreImprime(v)).append("\r\n");
-  Fichier let = OuvrirFichier(f.lettre, "wb");
-  EcrireOctets(let.get(), lignes.data(), lignes.size());
-  ViderFichier(let.get());
+  if (ordreAlpha) EcrireFichierLettre(f.lettre, lettres);
+  idx.Valider();
 }
 
 std::string VersionIndex(std::string_view fichierIndex) {
@@ -243,19 +242,42 @@ std::string VersionIndex(std::string_view fichierIndex) {
   return std::string(v);
 }
 
-EtatIndex LireIndex(const FichiersIndex& f, std::int64_t tailleDictio, IndexTable& table, TableLettre& lettres) {
+EtatDictio LireEtatDictio(std::string_view nom) {
+  EtatDictio e;
+  e.taille = LongueurFichier(nom);
+  std::error_code ec;
+  const auto date = std::filesystem::last_write_time(CheminNatif(nom), ec);
+  if (!ec) e.date = static_cast<std::int64_t>(date.time_since_epoch().count());
+  return e;
+}
+
+namespace {
+
+// The header of an index file of any version, as this program writes it: a version mark of
+// digits and dots, record 2's index field blank, whole records, as many as counted.
+bool EnTeteDuProgramme(const char* tete, std::int64_t longueur) {
+  if (longueur % static_cast<std::int64_t>(kTailleEnreg) != 0) return false;
+  const std::string_view version = SansBlancsFinaux(tete, kTailleChamp);
+  if (version.empty() || version.find_first_not_of("0123456789.") != std::string_view::npos) return false;
+  if (!SansBlancsFinaux(tete + kTailleEnreg, kTailleChamp).empty()) return false;
+  const std::int32_t nombre = LitValeur(tete + 2 * kTailleChamp);
+  const std::int32_t taille = LitValeur(tete + kTailleEnreg + 2 * kTailleChamp);
+  return nombre >= 0 && taille >= 0 &&
+         (static_cast<std::int64_t>(nombre) + 2) * static_cast<std::int64_t>(kTailleEnreg) <= longueur;
+}
+
+EtatIndex LitIndex(const FichiersIndex& f, const EtatDictio& dictio, IndexTable& table, TableLettre& lettres) {
   table.Vider();
   if (VersionIndex(f.index) != kVersionIndex) return EtatIndex::Version;
   Fichier idx = OuvrirSiPossible(f.index, "rb");
   if (!idx) return EtatIndex::Perime;
   char tete[2 * kTailleEnreg];
   if (std::fread(tete, 1, sizeof tete, idx.get()) != sizeof tete) return EtatIndex::Perime;
+  if (!EnTeteDuProgramme(tete, LongueurFichier(f.index))) return EtatIndex::Perime;
   const std::int32_t nombre = LitValeur(tete + 2 * kTailleChamp);
   const std::int32_t taille = LitValeur(tete + kTailleEnreg + 2 * kTailleChamp);
-  if (taille != tailleDictio || nombre < 0) return EtatIndex::Perime;
-  const std::int64_t longueurIndex = LongueurFichier(f.index);
-  if (longueurIndex < (static_cast<std::int64_t>(nombre) + 2) * static_cast<std::int64_t>(kTailleEnreg))
-    return EtatIndex::Perime;
+  const std::string_view date = SansBlancsFinaux(tete + kTailleEnreg + kTailleChamp, kTailleChamp);
+  if (taille != dictio.taille || date != TexteDate(dictio.date)) return EtatIndex::Perime;
 
   table.Reserver(static_cast<std::size_t>(nombre));
   constexpr std::size_t kParLecture = 8192;
@@ -282,17 +304,29 @@ EtatIndex LireIndex(const FichiersIndex& f, std::int64_t tailleDictio, IndexTabl
   }
   table.Terminer(taille);
 
-  if (!FichierExistant(f.lettre)) {
+  if (!LireFichierLettre(f.lettre, lettres)) {
     table.Vider();
     return EtatIndex::Perime;
   }
-  std::vector<std::string> lignes = LireLignes(f.lettre);
-  if (lignes.size() < TableLettre::kTaille) {
-    table.Vider();
-    return EtatIndex::Perime;
-  }
-  for (std::size_t i = 0; i < TableLettre::kTaille; ++i) lettres.valeurs()[i] = Val(lignes[i]);
   return EtatIndex::Charge;
+}
+
+}  // namespace
+
+EtatIndex LireIndex(const FichiersIndex& f, IndexTable& table, TableLettre& lettres) {
+  return LitIndex(f, LireEtatDictio(f.dictio), table, lettres);
+}
+
+EtatIndex LireIndex(const FichiersIndex& f, std::int64_t tailleDictio, IndexTable& table, TableLettre& lettres) {
+  return LitIndex(f, {tailleDictio, LireEtatDictio(f.dictio).date}, table, lettres);
+}
+
+bool EstFichierIndex(std::string_view nom) {
+  const std::int64_t longueur = LongueurFichier(nom);
+  if (longueur < static_cast<std::int64_t>(2 * kTailleEnreg)) return false;
+  Fichier f = OuvrirSiPossible(nom, "rb");
+  char tete[2 * kTailleEnreg];
+  return f && std::fread(tete, 1, sizeof tete, f.get()) == sizeof tete && EnTeteDuProgramme(tete, longueur);
 }
 
 }  // namespace lex

@@ -4,41 +4,24 @@
 // Index file: fixed 144-byte records (70-character index line, 70-character key, both padded
 // with blanks and cut at 70; a little-endian signed 32-bit value). Record 1 holds the version
 // "1.20" and the article count, record 2 the dictionary's length at indexing time, record
-// k + 2 article k with the offset of its index line.
-// Letter file: 26 x 27 x 27 article numbers, one per line, for every one- to three-letter
-// beginning of a key (A..Z, then @ or A..Z, then @ or A..Z, @ meaning no letter).
+// k + 2 article k with the offset of its index line. The key fields of records 1 and 2 mean
+// nothing to other readers: record 1's holds the last key written, record 2's the
+// dictionary's modification time ("T" and a number), which says whether the index is current.
+// The letter file is data/letter_file.h's.
 #pragma once
-#include <array>
 #include <cstdint>
 #include <functional>
 #include <string>
 #include <string_view>
 
 #include "data/index_table.h"
+#include "data/letter_file.h"
 
 namespace lex {
 
 inline constexpr std::size_t kTailleEnreg = 144;
 inline constexpr std::size_t kTailleChamp = 70;
 inline constexpr const char* kVersionIndex = "1.20";
-
-class TableLettre {
- public:
-  TableLettre() { valeurs_.fill(1); }
-  // Letters are 'A'..'Z' for the first, '@'..'Z' for the other two.
-  std::int32_t& operator()(char l1, char l2, char l3) { return valeurs_[Rang(l1, l2, l3)]; }
-  std::int32_t operator()(char l1, char l2, char l3) const { return valeurs_[Rang(l1, l2, l3)]; }
-  static constexpr std::size_t kTaille = 26 * 27 * 27;
-  std::array<std::int32_t, kTaille>& valeurs() { return valeurs_; }
-  const std::array<std::int32_t, kTaille>& valeurs() const { return valeurs_; }
-
- private:
-  static std::size_t Rang(char l1, char l2, char l3) {
-    return static_cast<std::size_t>(l1 - 'A') * 729 + static_cast<std::size_t>(l2 - '@') * 27 +
-           static_cast<std::size_t>(l3 - '@');
-  }
-  std::array<std::int32_t, kTaille> valeurs_;
-};
 
 struct FichiersIndex {
   std::string dictio;
@@ -47,7 +30,10 @@ struct FichiersIndex {
 };
 
 // Scans the dictionary, writes the index file (and the letter file when `ordreAlpha`), and
-// fills the table with the whole index lines and keys. `bip` is the progress signal.
+// fills the table with the whole index lines and keys. `bip` is the progress signal. Both
+// files go through safe writes: a failure (ErreurEcriture) leaves the old ones, and the
+// letter file is replaced before the index file, so that an index found current never
+// stands beside a letter file of another dictionary.
 void ConstruireIndex(const FichiersIndex& f, bool ordreAlpha, IndexTable& table, TableLettre& lettres,
                      const std::function<void()>& bip);
 
@@ -55,17 +41,37 @@ void ConstruireIndex(const FichiersIndex& f, bool ordreAlpha, IndexTable& table,
 void RemplirTableLettre(const IndexTable& table, TableLettre& lettres, int& compteurBip,
                         const std::function<void()>& bip);
 
+// What an index records of its dictionary, to tell whether it still describes it.
+struct EtatDictio {
+  std::int64_t taille = -1;  // in bytes; -1 when the file cannot be read
+  std::int64_t date = 0;     // modification time, in ticks of the file system's clock
+  bool operator==(const EtatDictio&) const = default;
+};
+EtatDictio LireEtatDictio(std::string_view nom);
+
 enum class EtatIndex {
   Charge,      // the table and the letter table were loaded
   Version,     // another version: rebuild without a word
   Perime,      // stale, truncated or inconsistent: rebuild, saying so
 };
 
-// Reads an existing index file and its letter file into memory when they are current for a
-// dictionary of `tailleDictio` bytes; the table is left empty otherwise.
+// Reads an existing index file and its letter file into memory when they are current for
+// the dictionary `f.dictio`: its length and its modification time must both be those the
+// index recorded, so that a dictionary changed to the same length is indexed again. The
+// table is left empty otherwise. An index written before the time was recorded is stale.
+EtatIndex LireIndex(const FichiersIndex& f, IndexTable& table, TableLettre& lettres);
+// Earlier form, kept while callers move to the one above: `tailleDictio` is the length the
+// caller measured (as before); the modification time is now read from `f.dictio` and
+// checked as well.
 EtatIndex LireIndex(const FichiersIndex& f, std::int64_t tailleDictio, IndexTable& table, TableLettre& lettres);
 
 // The version field of record 1, blanks trimmed ("" when the file cannot be read).
 std::string VersionIndex(std::string_view fichierIndex);
+
+// Whether the file has the shape of an index file of this program, of any version: whole
+// records, a version mark (digits and dots) in record 1, a blank index field in record 2,
+// and as many records as record 1 counts articles. A user's file of that name is never
+// taken for one. Reads two records.
+bool EstFichierIndex(std::string_view nom);
 
 }  // namespace lex

@@ -1,9 +1,11 @@
 #include "data/index_scanner.h"
 
+#include <algorithm>
 #include <bit>
-#include <future>
 #include <cstdint>
 #include <cstring>
+#include <future>
+#include <new>
 
 #if defined(__SSE2__)
 #include <emmintrin.h>
@@ -55,8 +57,20 @@ const char* ProchaineLigneVide(const char* p, const char* limite) {
   return nullptr;
 }
 
+LecteurIndex::Tampon::Tampon(std::size_t n) : octets(static_cast<char*>(std::malloc(n))), taille(n) {
+  if (!octets) throw std::bad_alloc();
+}
+
+void LecteurIndex::Tampon::Agrandir(std::size_t n) {
+  char* p = static_cast<char*>(std::realloc(octets.get(), n));
+  if (!p) throw std::bad_alloc();
+  (void)octets.release();
+  octets.reset(p);
+  taille = n;
+}
+
 LecteurIndex::LecteurIndex(std::FILE* f, std::size_t bloc, std::size_t reserve)
-    : f_(f), bloc_(bloc), reserve_(reserve), t_(reserve + bloc + kMarge, '\0'), suivant_(t_.size(), '\0'),
+    : f_(f), bloc_(bloc), reserve_(reserve), t_(reserve + bloc + kMarge), suivant_(t_.size()),
       p_(reserve), fin_(reserve), base_(-static_cast<std::int64_t>(reserve)) {
   Anticipe();
 }
@@ -66,7 +80,9 @@ LecteurIndex::~LecteurIndex() {
 }
 
 void LecteurIndex::Anticipe() {
-  if (suivant_.size() < reserve_ + bloc_ + kMarge) suivant_.assign(reserve_ + bloc_ + kMarge, '\0');
+  const std::size_t taille = reserve_ + bloc_ + kMarge;
+  // The buffer of a long line, swapped out once the line ended, is not kept for good.
+  if (suivant_.size() != taille) suivant_ = Tampon(taille);
   lecture_ = std::async(std::launch::async,
                         [f = f_, d = suivant_.data() + reserve_, n = bloc_] { return std::fread(d, 1, n, f); });
 }
@@ -85,13 +101,13 @@ void LecteurIndex::Remplir() {
     p_ = reserve_ - reste;
     fin_ = reserve_ + n;
   } else {
-    // A line longer than the room before the block: one buffer holds it whole.
-    std::vector<char> grand(reste + n + kMarge);
-    std::memcpy(grand.data(), t_.data() + p_, reste);
-    std::memcpy(grand.data() + reste, suivant_.data() + reserve_, n);
-    suivant_ = std::move(t_);
-    t_ = std::move(grand);
+    // A line longer than the room before the block grows at the start of a buffer that at
+    // least doubles when too small: a line of any length costs time in proportion to it.
+    if (p_ > 0) std::memmove(t_.data(), t_.data() + p_, reste);
     p_ = 0;
+    const std::size_t voulu = reste + n + kMarge;
+    if (t_.size() < voulu) t_.Agrandir(std::max(voulu, 2 * t_.size()));
+    std::memcpy(t_.data() + reste, suivant_.data() + reserve_, n);
     fin_ = reste + n;
   }
   base_ = debutDonnees - static_cast<std::int64_t>(fin_ - n);
@@ -118,12 +134,14 @@ bool LecteurIndex::Suivante(std::string_view& ligne, std::int64_t& offset) {
       Remplir();
       continue;
     }
-    const char* debut = t_.data() + p_;
-    const char* nl = FinDeLigne(debut, t_.data() + fin_);
+    // Bytes already searched stay searched when a long line takes several blocks.
+    const char* nl = FinDeLigne(t_.data() + p_ + sansFin_, t_.data() + fin_);
     if (!nl && !eof_) {
+      sansFin_ = fin_ - p_;
       Remplir();
       continue;
     }
+    sansFin_ = 0;
     const std::size_t fin = nl ? static_cast<std::size_t>(nl - t_.data()) : fin_;
     std::size_t longueur = fin - p_;
     if (nl && longueur > 0 && t_[fin - 1] == '\r') --longueur;

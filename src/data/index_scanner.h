@@ -5,9 +5,10 @@
 #pragma once
 #include <cstdint>
 #include <cstdio>
+#include <cstdlib>
 #include <future>
+#include <memory>
 #include <string_view>
-#include <vector>
 
 namespace lex {
 
@@ -29,11 +30,26 @@ class LecteurIndex {
 
   std::FILE* f_;
   std::size_t bloc_, reserve_;
-  std::vector<char> t_;        // the block being walked, after room for a carried line start
-  std::vector<char> suivant_;  // the block being read
+  // Bytes that nothing reads before they are written: no time spent clearing them. A long
+  // line grows its buffer with realloc, which moves large blocks without copying them.
+  struct Libere {
+    void operator()(char* p) const { std::free(p); }
+  };
+  struct Tampon {
+    std::unique_ptr<char, Libere> octets;
+    std::size_t taille = 0;
+    explicit Tampon(std::size_t n);
+    void Agrandir(std::size_t n);
+    char* data() const { return octets.get(); }
+    std::size_t size() const { return taille; }
+    char& operator[](std::size_t i) const { return octets.get()[i]; }
+  };
+  Tampon t_;        // the block being walked, after room for a carried line start
+  Tampon suivant_;  // the block being read
   std::future<std::size_t> lecture_;
   std::size_t p_ = 0, fin_ = 0;
   std::int64_t base_ = 0;  // offset in the file of t_[0]
+  std::size_t sansFin_ = 0;  // bytes from p_ known to hold no line end
   bool eof_ = false;
   // Inside an article: p_ is a line end whose next line may be the empty separator.
   bool dansArticle_ = false;

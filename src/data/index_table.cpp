@@ -4,6 +4,7 @@
 #include <cstring>
 
 #include "base/error.h"
+#include "data/huge_pages.h"
 
 namespace lex {
 
@@ -12,22 +13,32 @@ void IndexTable::Vider() { *this = IndexTable(); }
 void IndexTable::Reserver(std::size_t entrees) {
   refs_.reserve(entrees);
   positions_.reserve(entrees + 1);
+  ConseilleGrandesPages(refs_.data(), refs_.capacity() * sizeof(Ref));
+  ConseilleGrandesPages(positions_.data(), positions_.capacity() * sizeof(std::int32_t));
 }
 
-void IndexTable::Ajouter(std::string_view texte, std::string_view cle, std::int32_t position) {
-  std::size_t n = texte.size() + cle.size();
+char* IndexTable::Place(std::size_t n) {
   if (n > libre_) {
     tailleBloc_ = std::max(kBloc, n);
     blocs_.emplace_back(new char[tailleBloc_]);
+    ConseilleGrandesPages(blocs_.back().get(), tailleBloc_);
     libre_ = tailleBloc_;
   }
-  char* p = blocs_.back().get() + (tailleBloc_ - libre_);
-  std::memcpy(p, texte.data(), texte.size());
-  std::memcpy(p + texte.size(), cle.data(), cle.size());
+  return blocs_.back().get() + (tailleBloc_ - libre_);
+}
+
+void IndexTable::Inscrire(std::size_t longTexte, std::size_t longCle, std::int32_t position) {
   refs_.push_back({static_cast<std::uint32_t>(blocs_.size() - 1), static_cast<std::uint32_t>(tailleBloc_ - libre_),
-                   static_cast<std::uint32_t>(texte.size()), static_cast<std::uint32_t>(cle.size())});
-  libre_ -= n;
+                   static_cast<std::uint32_t>(longTexte), static_cast<std::uint32_t>(longCle)});
+  libre_ -= longTexte + longCle;
   positions_.push_back(position);
+}
+
+void IndexTable::Ajouter(std::string_view texte, std::string_view cle, std::int32_t position) {
+  char* p = Place(texte.size() + cle.size());
+  if (!texte.empty()) std::memcpy(p, texte.data(), texte.size());
+  if (!cle.empty()) std::memcpy(p + texte.size(), cle.data(), cle.size());
+  Inscrire(texte.size(), cle.size(), position);
 }
 
 void IndexTable::Terminer(std::int32_t tailleDictio) {

@@ -3,6 +3,7 @@
 // few big blocks instead of a million small strings.
 #pragma once
 #include <cstdint>
+#include <cstring>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -21,6 +22,17 @@ class IndexTable {
   void Reserver(std::size_t entrees);
   // Appends entry NombreArticle() + 1.
   void Ajouter(std::string_view texte, std::string_view cle, std::int32_t position);
+  // The same, the key being written in place by `plier(texte, destination)`, which writes at
+  // most twice the text's length and returns the key's; gives the key as stored. Building an
+  // index saves a copy of every key, and the memory of a second one for a very long line.
+  template <class Plieur>
+  std::string_view AjouterPlie(std::string_view texte, std::int32_t position, Plieur&& plier) {
+    char* p = Place(3 * texte.size());
+    if (!texte.empty()) std::memcpy(p, texte.data(), texte.size());
+    const std::size_t longCle = plier(texte, p + texte.size());
+    Inscrire(texte.size(), longCle, position);
+    return {p + texte.size(), longCle};
+  }
   // Closes the table with the sentinel whose position is the file length.
   void Terminer(std::int32_t tailleDictio);
 
@@ -42,6 +54,10 @@ class IndexTable {
     std::uint32_t longCle;
   };
   void Verifier(std::int32_t i, bool sentinelle) const;
+  // Room for `n` bytes at the end of the last block, which a new block gives when short.
+  char* Place(std::size_t n);
+  // Records the entry just placed, of those lengths.
+  void Inscrire(std::size_t longTexte, std::size_t longCle, std::int32_t position);
 
   static constexpr std::size_t kBloc = 1 << 22;
   std::vector<std::unique_ptr<char[]>> blocs_;

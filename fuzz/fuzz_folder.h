@@ -1,0 +1,33 @@
+// A folder of this fuzzing process's own, removed when it ends, for the readers that take
+// file names.
+#pragma once
+#include <unistd.h>
+
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <string>
+#include <string_view>
+
+namespace lex::fuzz {
+
+inline const std::string& Dossier() {
+  static const std::string d = [] {
+    const auto p = std::filesystem::temp_directory_path() / ("lex-fuzz-" + std::to_string(::getpid()));
+    std::filesystem::create_directories(p);
+    std::atexit([] {
+      std::error_code ec;
+      std::filesystem::remove_all(std::filesystem::temp_directory_path() / ("lex-fuzz-" + std::to_string(::getpid())), ec);
+    });
+    return p.string() + "/";
+  }();
+  return d;
+}
+
+inline std::string Ecrit(const std::string& nom, std::string_view octets) {
+  const std::string chemin = Dossier() + nom;
+  std::ofstream(chemin, std::ios::binary | std::ios::trunc).write(octets.data(), static_cast<std::streamsize>(octets.size()));
+  return chemin;
+}
+
+}  // namespace lex::fuzz
