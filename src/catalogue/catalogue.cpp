@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "data/files.h"
+#include "data/index_file.h"
 #include "base/numbers.h"
 #include "base/error.h"
 
@@ -56,12 +57,13 @@ void InitDictio(Catalogue& c, const std::string& dossierDictio) {
   bloc.LettreAppel = "B";
   c.entrees().push_back(bloc);
   // Index files of the earlier naming ("index.eng") are left-overs; the current ones
-  // carry the base name too ("index.lex.eng") and are not touched.
+  // carry the base name too ("index.lex.eng") and are not touched. A user's own file of such
+  // a name ("index.txt" of notes) is not ours and stays.
   for (int i = 1; i <= 8; ++i) {
-    for (const char* prefixe : {"index.", "lettre."}) {
-      std::string ancien = dossierDictio + prefixe + c[i].Suffixe;
-      if (FichierExistant(ancien)) SupprimerFichier(ancien);
-    }
+    const std::string index = dossierDictio + "index." + c[i].Suffixe;
+    const std::string lettre = dossierDictio + "lettre." + c[i].Suffixe;
+    if (EstFichierIndex(index)) SupprimerFichier(index);
+    if (EstFichierLettre(lettre)) SupprimerFichier(lettre);
   }
 }
 

@@ -1,6 +1,7 @@
 #include "catalogue/opening.h"
 
 #include "data/files.h"
+#include "data/write_error.h"
 #include "selection/marks.h"
 
 namespace lex {
@@ -11,33 +12,38 @@ std::string FichierALire(const Catalogue& c, const std::string& dossierDictio, i
   return nomfic;
 }
 
-void InitIndex(DictionnaireOuvert& dico, const Selections& s, int d, const std::function<void()>& bip) {
-  ConstruireIndex(dico.fichiers, dico.OrdreAlpha, dico.TableIndex, dico.Lettres, bip);
+void InitIndex(DictionnaireOuvert& dico, const Selections& s, int d, const AvisOuverture& avis) {
+  try {
+    ConstruireIndex(dico.fichiers, dico.OrdreAlpha, dico.TableIndex, dico.Lettres, avis.bip);
+  } catch (const ErreurEcriture& e) {
+    OublieRapport();
+    avis.alerte(MessageErreurEcriture(e) + " ; l'index est gard\xE9 en m\xE9moire.");
+    ConstruireTables(dico.fichiers.dictio, dico.TableIndex, dico.Lettres, avis.bip);
+  }
   TestAjout(dico.TableIndex, s, d);
   TestSelection(dico.TableIndex, s, d);
 }
 
 void OuvreDictionnaire(const Catalogue& c, const std::string& dossierDictio, int d, const std::string& fichier,
-                       DictionnaireOuvert& dico, const Selections& s, const std::function<void(std::string)>& annonce,
-                       const std::function<void()>& bip) {
+                       DictionnaireOuvert& dico, const Selections& s, const AvisOuverture& avis) {
   dico.fichiers = {fichier, NomIndex(c, dossierDictio, d), NomLettre(c, dossierDictio, d)};
   dico.OrdreAlpha = c[d].OrdreAlpha;
   const std::string installation = "Installation de l'index  pour " + c[d].NomDictio;
   if (FichierExistant(dico.fichiers.index) && FichierExistant(dico.fichiers.lettre)) {
-    switch (LireIndex(dico.fichiers, LongueurFichier(fichier), dico.TableIndex, dico.Lettres)) {
+    switch (LireIndex(dico.fichiers, dico.TableIndex, dico.Lettres)) {
       case EtatIndex::Charge:
         TestAjout(dico.TableIndex, s, d);
         TestSelection(dico.TableIndex, s, d);
         return;
       case EtatIndex::Version:
-        InitIndex(dico, s, d, bip);
+        InitIndex(dico, s, d, avis);
         return;
       case EtatIndex::Perime:
         break;
     }
   }
-  annonce(installation);
-  InitIndex(dico, s, d, bip);
+  avis.annonce(installation);
+  InitIndex(dico, s, d, avis);
 }
 
 }  // namespace lex

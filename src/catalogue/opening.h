@@ -12,13 +12,21 @@ namespace lex {
 // The file the user reads for entry d: its ".bak" working copy while it holds unsaved changes.
 std::string FichierALire(const Catalogue& c, const std::string& dossierDictio, int d);
 
+// What opening a dictionary tells the user on the way.
+struct AvisOuverture {
+  std::function<void(std::string)> annonce;  // on the message line: wait, the index is being built
+  std::function<void(std::string)> alerte;   // in a message box: an index that could not be written
+  std::function<void()> bip;                 // the progress signal of a long build
+};
+
 // Rebuilds the index and letter files of `dico` and its tables, then the marks of entry d.
-void InitIndex(DictionnaireOuvert& dico, const Selections& s, int d, const std::function<void()>& bip);
+// When the files cannot be written, the user is told and the tables are built in memory
+// alone: the dictionary opens all the same.
+void InitIndex(DictionnaireOuvert& dico, const Selections& s, int d, const AvisOuverture& avis);
 
 // Opens `fichier`, entry d's file, into `dico`: its index is loaded when up to date, or built
-// anew, after `annonce` tells the user to wait when the index was missing or out of date.
+// anew, after telling the user to wait when the index was missing or out of date.
 void OuvreDictionnaire(const Catalogue& c, const std::string& dossierDictio, int d, const std::string& fichier,
-                       DictionnaireOuvert& dico, const Selections& s, const std::function<void(std::string)>& annonce,
-                       const std::function<void()>& bip);
+                       DictionnaireOuvert& dico, const Selections& s, const AvisOuverture& avis);
 
 }  // namespace lex

@@ -3,20 +3,50 @@
 #include "controller/buttons.h"
 #include "controller/commands.h"
 #include "controller/error_trap.h"
+#include "controller/modes.h"
 #include "controller/startup.h"
+#include "data/files.h"
+#include "data/write_error.h"
 
 namespace lex {
+namespace {
+
+bool DictionnaireDisparu(const Form& f, const LexError& e) {
+  return e.numero() == 53 && DansUnDictionnaire(f.fenetre.ModeCourant()) && !FichierExistant(f.dico.fichiers.dictio);
+}
+
+}  // namespace
+
+Issue Evenement(Form& f, const std::function<void()>& travail) {
+  bool ecritureEchouee = false;
+  const bool vivant = RunTrapped(f.ui, f.dlg, f.fenetre.Termine, [&] {
+    try {
+      travail();
+    } catch (const ErreurEcriture& e) {
+      OublieRapport();
+      ecritureEchouee = true;
+      f.dlg.MessageBox(MessageErreurEcriture(e), Boutons::OK, Icone::Exclamation, "Dictionnaires");
+    } catch (const LexError& e) {
+      if (!DictionnaireDisparu(f, e)) throw;
+      OublieRapport();
+      f.dlg.MessageBox("Le dictionnaire " + f.dico.fichiers.dictio + " est introuvable : retour \xE0 la liste.",
+                       Boutons::OK, Icone::Exclamation, "Dictionnaires");
+      EntrerListeDictio(f);
+    }
+  });
+  return !vivant ? Issue::Terminee : ecritureEchouee ? Issue::EcritureEchouee : Issue::Faite;
+}
 
 void EvChargement(Form& f, const std::string& dossierProgramme) {
-  RunTrapped(f.ui, f.dlg, f.fenetre.Termine, [&] { Chargement(f, dossierProgramme); });
+  Evenement(f, [&] { Chargement(f, dossierProgramme); });
 }
 
 void EvMenu(Form& f, MenuId id) {
-  RunTrapped(f.ui, f.dlg, f.fenetre.Termine, [&] { ExecuteMenu(f, id); });
+  Evenement(f, [&] { ExecuteMenu(f, id); });
 }
 
 void EvBouton(Form& f, Bouton b) {
-  RunTrapped(f.ui, f.dlg, f.fenetre.Termine, [&] {
+  Evenement(f, [&] {
     switch (b) {
       case Bouton::CmdDic: CmdDic_Click(f); break;
       case Bouton::CmdDivers: CmdDivers_Click(f); break;
@@ -27,7 +57,9 @@ void EvBouton(Form& f, Bouton b) {
 
 void EvFermeture(Form& f) {
   if (f.fenetre.Termine) return;
-  RunTrapped(f.ui, f.dlg, f.fenetre.Termine, [&] { quitter(f); });
+  // A configuration that could not be written keeps the window open: closing would lose the
+  // user's catalogue. The next close tries again.
+  if (Evenement(f, [&] { quitter(f); }) == Issue::EcritureEchouee) return;
   // Cancel in quitter keeps the program only when asked from the menu or the button; the
   // close box closes the window anyway, without writing the configuration.
   if (!f.fenetre.Termine) {

@@ -2,7 +2,7 @@
 
 #include "base/encoding.h"
 #include "controller/commands.h"
-#include "controller/error_trap.h"
+#include "controller/events.h"
 #include "controller/form.h"
 #include "controller/key_handlers.h"
 #include "controller/menus.h"
@@ -11,11 +11,11 @@
 namespace lex {
 namespace {
 
-// Runs a handler under the error trap; a key reaching a program that has ended is used up.
+// Runs a handler as an event; a key reaching a program that has ended is used up.
 bool Utilise(Form& f, const std::function<bool()>& gestion) {
   bool utilise = false;
-  const bool vivant = RunTrapped(f.ui, f.dlg, f.fenetre.Termine, [&] { utilise = gestion(); });
-  return utilise || !vivant;
+  const Issue issue = Evenement(f, [&] { utilise = gestion(); });
+  return utilise || issue != Issue::Faite;
 }
 
 // Ctrl and Alt combinations are commands, not characters; Ctrl+Alt together is AltGr on
@@ -33,7 +33,7 @@ bool ToucheBas(Form& f, Champ champ, int code, int modificateurs) {
   // A menu's shortcut wins over the field, as in any window: Ctrl+A is a command, not the
   // field's select-all.
   if (const MenuItem* m = MenuParRaccourci(code, modificateurs); m && MenuActif(f, m->id)) {
-    RunTrapped(f.ui, f.dlg, f.fenetre.Termine, [&] { ExecuteMenu(f, m->id); });
+    Evenement(f, [&] { ExecuteMenu(f, m->id); });
     return true;
   }
   return Utilise(f, [&] {

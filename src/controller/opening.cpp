@@ -47,9 +47,11 @@ void AppelDictionnaire(Form& f) {
     return;
   }
   f.liste.MontreIndex();
-  OuvreDictionnaire(
-      c, f.reglages.DossierDictio, d, nomfic, f.dico, f.selections, [&f](std::string t) { message(f, std::move(t)); },
-      [&f] { f.ui.Beep(); });
+  const AvisOuverture avis{
+      [&f](std::string t) { message(f, std::move(t)); },
+      [&f](std::string t) { f.dlg.MessageBox(t, Boutons::OK, Icone::Exclamation, "Dictionnaires"); },
+      [&f] { f.ui.Beep(); }};
+  OuvreDictionnaire(c, f.reglages.DossierDictio, d, nomfic, f.dico, f.selections, avis);
   w.PileSuite.clear();
   EntrerIndex(f, c[d].PositionDictio, Annonce::AvantLeTitre);
 }

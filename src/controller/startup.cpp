@@ -9,6 +9,7 @@
 #include "controller/modes.h"
 #include "controller/options.h"
 #include "data/files.h"
+#include "data/safe_write.h"
 
 namespace lex {
 
@@ -32,6 +33,8 @@ void Chargement(Form& f, const std::string& dossierProgramme) {
     f.ui.Quit();
     throw ProgrammeTermine{};
   }
+  // What a cut left half written is thrown away before anything is written.
+  SupprimerTemporaires(r.DossierProgramme);
   r.FichierBlocNote = r.DossierProgramme + "blocnote.txt";
   r.PoliceNom = "Courier";
   r.PoliceTaille = "10";

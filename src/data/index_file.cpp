@@ -232,6 +232,27 @@ void ConstruireIndex(const FichiersIndex& f, bool ordreAlpha, IndexTable& table,
   idx.Valider();
 }
 
+void ConstruireTables(std::string_view dictio, IndexTable& table, TableLettre& lettres,
+                      const std::function<void()>& bip) {
+  ErrorTrap trap(" sur InitIndex");
+  Fichier dic = OuvrirFichier(dictio, "rb");
+  table.Vider();
+  int compteurBip = 0;
+  LecteurIndex lecteur(dic.get());
+  std::string_view ligne;
+  std::int64_t offset = 0;
+  while (lecteur.Suivante(ligne, offset)) {
+    table.AjouterPlie(ligne, Offset32(offset), SansaccentEpureVers);
+    if (++compteurBip == 25000) {
+      bip();
+      compteurBip = 0;
+    }
+  }
+  dic.reset();
+  table.Terminer(Offset32(LongueurFichier(dictio)));
+  RemplirTableLettre(table, lettres, compteurBip, bip);
+}
+
 std::string VersionIndex(std::string_view fichierIndex) {
   Fichier f = OuvrirSiPossible(fichierIndex, "rb");
   if (!f) return {};

@@ -37,6 +37,11 @@ struct FichiersIndex {
 void ConstruireIndex(const FichiersIndex& f, bool ordreAlpha, IndexTable& table, TableLettre& lettres,
                      const std::function<void()>& bip);
 
+// The same tables without writing any file: what a dictionary opens from when its index
+// cannot be written.
+void ConstruireTables(std::string_view dictio, IndexTable& table, TableLettre& lettres,
+                      const std::function<void()>& bip);
+
 // Fills the letter table from the keys of the table (file order).
 void RemplirTableLettre(const IndexTable& table, TableLettre& lettres, int& compteurBip,
                         const std::function<void()>& bip);

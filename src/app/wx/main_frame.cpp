@@ -152,8 +152,13 @@ void Form1::TouchePresse(wxKeyEvent& e, Champ champ) {
 
 void Form1::Menu(wxCommandEvent& e) { EvMenu(*form_, static_cast<MenuId>(e.GetId() - kPremierIdMenu)); }
 
-void Form1::Fermeture(wxCloseEvent&) {
+void Form1::Fermeture(wxCloseEvent& e) {
   EvFermeture(*form_);
+  // The program stays when it could not save what closing would lose.
+  if (!form_->fenetre.Termine && e.CanVeto()) {
+    e.Veto();
+    return;
+  }
   ui_->Quit();  // already done unless the program had ended before
 }
 
