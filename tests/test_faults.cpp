@@ -132,3 +132,15 @@ TEST(Faults, OnlyOurOwnLeftOversAreDeletedAtStart) {
   EXPECT_FALSE(FichierExistant(m.d.Chemin("index.eng")));
   EXPECT_FALSE(FichierExistant(m.d.Chemin("lettre.eng")));
 }
+
+TEST(Faults, AConfigurationTooBigToHoldIsSaidAndReplacedAtTheEnd) {
+  Machine m;
+  m.d.Ecrire("lex301.INI", std::string(9'000'000 * 2, '\n'));  // lines that would take far more memory
+  m.Charge();
+  ASSERT_EQ(m.ui.boxes.size(), 1u);
+  EXPECT_NE(m.ui.boxes[0].find("est trop grand pour \xEAtre une configuration de LEX"), std::string::npos);
+  EXPECT_FALSE(m.ui.quit);
+  EXPECT_EQ(m.f.catalogue.NombreDictio(), 22);
+  EvFermeture(m.f);
+  EXPECT_EQ(LireLignes(m.d.Chemin("lex301.INI")).size(), 26u);
+}

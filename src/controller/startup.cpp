@@ -42,7 +42,21 @@ void Chargement(Form& f, const std::string& dossierProgramme) {
 
   InitDictio(f.catalogue, r.DossierDictio);
   const bool premiere = !FichierExistant(r.FichierConfig);
-  const std::vector<std::string> lignes = premiere ? LignesUsine(r.DossierProgramme) : LireLignes(r.FichierConfig);
+  std::vector<std::string> lignes;
+  if (!premiere) {
+    try {
+      lignes = LireLignes(r.FichierConfig);
+    } catch (const LexError& e) {
+      if (e.numero() != 7) throw;
+      // Not a configuration this program wrote: the factory one takes its place at the end.
+      OublieRapport();
+      f.dlg.MessageBox("Le fichier " + r.FichierConfig +
+                           " est trop grand pour \xEAtre une configuration de LEX : il est ignor\xE9 et sera "
+                           "remplac\xE9 \xE0 la fermeture.",
+                       Boutons::OK, Icone::Exclamation, "Dictionnaires");
+    }
+  }
+  if (lignes.empty()) lignes = LignesUsine(r.DossierProgramme);
   const std::vector<std::string> refus = LireConfig(lignes, f.catalogue, r, f.fenetre.DictioCourant);
   AjoutLettreAppelDictio(f.catalogue);
 
