@@ -45,8 +45,7 @@ std::size_t DebutLigne(const std::string& texte, std::int32_t n) {
   return debut;
 }
 
-void SurNumero(Form& f, std::int32_t n) {
-  const std::string texte = TexteChamp(f);
+void SurNumero(Form& f, const std::string& texte, std::int32_t n) {
   std::size_t debut = DebutLigne(texte, n);
   PoseCurseur(f, debut);
   message(f, extraitLigne(texte, debut));

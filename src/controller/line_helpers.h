@@ -20,8 +20,9 @@ std::int32_t numeroTxt(const std::string& texte, std::size_t position);
 std::int32_t LigneCurseur(const Form& f);
 // The text of the line holding 0-based `position`; `position` moves to that line's start.
 std::string extraitLigne(const std::string& texte, std::size_t& position);
-// Caret to the start of line n (the last line when there are fewer), that line announced.
-void SurNumero(Form& f, std::int32_t n);
+// Caret to the start of line n (the last line when there are fewer) of `texte`, the text the
+// field shows, that line announced.
+void SurNumero(Form& f, const std::string& texte, std::int32_t n);
 // 1-based position of the CR ending the caret's line, or the length + 1 on the last line.
 std::size_t FinLigne(const Form& f);
 // 0-based start of line n of `texte` (the last line's start when there are fewer).

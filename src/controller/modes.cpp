@@ -22,14 +22,16 @@ void PoseBoutons(Form& f, const char* dic, const char* divers) {
   f.ui.SetButtonVisible(Bouton::CmdDivers, divers != nullptr);
 }
 
-// What both lists of the catalogue share.
-void EntrerCatalogue(Form& f, Mode m, const std::string& texte) {
+// What both lists of the catalogue share; the caret goes to line `ligne`.
+void EntrerCatalogue(Form& f, Mode m, const std::string& texte, std::int32_t ligne) {
   PoseMode(f.fenetre, m);
   f.liste.MontreIndex();
   OublieDebutTape(f);
   MontreDansTxt(f, texte);
   f.ui.FocusLine();
   PoseBoutons(f, "Index", nullptr);
+  SurNumero(f, texte, ligne);
+  AfficheStatus(f);
 }
 
 }  // namespace
@@ -44,16 +46,13 @@ void EntrerListeDictio(Form& f) {
     EntrerListeHistoire(f);
     return;
   }
-  EntrerCatalogue(f, Mode::ListeDictionnaires, TexteListeDictio(f.catalogue));
-  SurNumero(f, LigneDeEntree(f.catalogue, f.fenetre.DictioCourant) + 2);
-  AfficheStatus(f);
+  EntrerCatalogue(f, Mode::ListeDictionnaires, TexteListeDictio(f.catalogue),
+                  LigneDeEntree(f.catalogue, f.fenetre.DictioCourant) + 2);
 }
 
 void EntrerListeHistoire(Form& f) {
   f.fenetre.ListeHistoire = true;
-  EntrerCatalogue(f, Mode::ListeHistoire, TexteListeHistoire(f.catalogue));
-  SurNumero(f, f.catalogue[9].PositionDictio + 2);
-  AfficheStatus(f);
+  EntrerCatalogue(f, Mode::ListeHistoire, TexteListeHistoire(f.catalogue), f.catalogue[9].PositionDictio + 2);
 }
 
 void EntrerPage(Form& f, std::int32_t premier, Annonce annonce, std::int32_t ligne) {
@@ -91,7 +90,7 @@ void EntrerArticle(Form& f, std::int32_t numero, const std::string& article, std
     f.ui.FocusPane();
   }
   PoseBoutons(f, "Index", nullptr);
-  if (curseur == std::string::npos) SurNumero(f, 2);
+  if (curseur == std::string::npos) SurNumero(f, article, 2);
   else PoseCurseur(f, curseur);
   AfficheStatus(f);
 }

@@ -144,7 +144,7 @@ void PositionIndex(Form& f) {
                                 Sansaccent(w.DebutIndexCherche));
     OublieDebutTape(f);
     if (r < 0) message(f, "introuvable");
-    else SurNumero(f, r + 3);
+    else SurNumero(f, TexteChamp(f), r + 3);
     return;
   }
   const std::string prefixe = SansaccentEpure(w.DebutIndexCherche);
