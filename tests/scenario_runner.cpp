@@ -138,7 +138,7 @@ int main(int argc, char** argv) {
   }
   verifieAbsents(sortie.size());
   for (const auto& [nom, attendu] : fichiers) {
-    const std::string chemin = lex::Utf8VersAnsi((dir / fs::path(std::u8string(nom.begin(), nom.end()))).string());
+    const std::string chemin = (dir / fs::path(std::u8string(nom.begin(), nom.end()))).string();
     bool trouve = false;
     if (lex::FichierExistant(chemin))
       for (const std::string& l : lex::LireLignes(chemin)) trouve = trouve || lex::AnsiVersUtf8(l) == attendu;

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
+#include <fstream>
 
 #include "app/headless/headless_window.h"
 #include "base/encoding.h"
@@ -143,4 +144,35 @@ TEST(Faults, AConfigurationTooBigToHoldIsSaidAndReplacedAtTheEnd) {
   EXPECT_EQ(m.f.catalogue.NombreDictio(), 22);
   EvFermeture(m.f);
   EXPECT_EQ(LireLignes(m.d.Chemin("lex301.INI")).size(), 26u);
+}
+
+TEST(Faults, AProgramFolderNamedOutsideWindows1252Works) {
+  test::DossierTemp racine;
+  const std::string dossier = racine.Dossier() + "\xC5\x81\xC3\xB3" "d\xC5\xBA \xC4\xB3/";  // "Łódź ĳ"
+  std::filesystem::create_directories(CheminNatif(dossier));
+  std::ofstream(CheminNatif(dossier + "lex.eng"), std::ios::binary) << "chat (n.)\r\ncat\r\n";
+  headless::HeadlessWindow ui;
+  Form f(ui, ui);
+  EvChargement(f, dossier);
+  RouteTouche(f, Champ::Txt, 'A', 0, 'a');
+  RouteTouche(f, Champ::Txt, Touche::Entree, 0, 13);
+  EXPECT_EQ(ui.txt.Text(), "chat (n.)");
+  EvMenu(f, MenuId::mnuEnregistrer);
+  EvFermeture(f);
+  EXPECT_TRUE(ui.boxes.empty()) << ui.boxes.front();
+  for (const char* nom : {"index.lex.eng", "lex.eng.bak", "lex301.INI"})
+    EXPECT_TRUE(FichierExistant(dossier + nom)) << nom;
+}
+
+TEST(Faults, AThousandBadNamesMakeSixBoxes) {
+  Machine m;
+  m.Charge();
+  std::vector<std::string> lignes = LireLignes(m.d.Chemin("lex301.INI"));
+  for (int i = 0; i < 1000; ++i) lignes.push_back("1,txt,a/" + std::to_string(i) + ",X");
+  EcrireLignes(m.d.Chemin("lex301.INI"), lignes);
+  Machine n;
+  n.d.Ecrire("lex301.INI", m.d.Lire("lex301.INI"));
+  n.Charge();
+  ASSERT_EQ(n.ui.boxes.size(), 6u);
+  EXPECT_NE(n.ui.boxes[5].find("Et 994 autres lignes ignor\xE9" "es."), std::string::npos);
 }

@@ -23,7 +23,8 @@ class DossierTemp {
   }
   // The folder as core text, ending with a separator.
   std::string Dossier() const { return ajoutbackslash(NomDepuisNatif(chemin_)); }
-  std::string Chemin(const std::string& nom) const { return Dossier() + nom; }
+  // `nom` is a name of the core (Windows-1252), as the program joins it to its folder.
+  std::string Chemin(const std::string& nom) const { return Dossier() + NomNatif(nom); }
   void Ecrire(const std::string& nom, const std::string& octets) const {
     std::ofstream(CheminNatif(Chemin(nom)), std::ios::binary) << octets;
   }

@@ -60,8 +60,8 @@ void InitDictio(Catalogue& c, const std::string& dossierDictio) {
   // carry the base name too ("index.lex.eng") and are not touched. A user's own file of such
   // a name ("index.txt" of notes) is not ours and stays.
   for (int i = 1; i <= 8; ++i) {
-    const std::string index = dossierDictio + "index." + c[i].Suffixe;
-    const std::string lettre = dossierDictio + "lettre." + c[i].Suffixe;
+    const std::string index = dossierDictio + NomNatif("index." + c[i].Suffixe);
+    const std::string lettre = dossierDictio + NomNatif("lettre." + c[i].Suffixe);
     if (EstFichierIndex(index)) SupprimerFichier(index);
     if (EstFichierLettre(lettre)) SupprimerFichier(lettre);
   }
@@ -149,15 +149,15 @@ void AjoutLettreAppelDictio(Catalogue& c) {
 
 std::string NomDictionnaire(const Catalogue& c, const std::string& dossierDictio, int i) {
   ErrorTrap trap(" sur NomDictionnaire");
-  return dossierDictio + c[i].NomFichier + "." + c[i].Suffixe;
+  return dossierDictio + NomNatif(c[i].NomFichier + "." + c[i].Suffixe);
 }
 
 std::string NomIndex(const Catalogue& c, const std::string& dossierDictio, int i) {
-  return dossierDictio + "index." + c[i].NomFichier + "." + c[i].Suffixe;
+  return dossierDictio + NomNatif("index." + c[i].NomFichier + "." + c[i].Suffixe);
 }
 
 std::string NomLettre(const Catalogue& c, const std::string& dossierDictio, int i) {
-  return dossierDictio + "lettre." + c[i].NomFichier + "." + c[i].Suffixe;
+  return dossierDictio + NomNatif("lettre." + c[i].NomFichier + "." + c[i].Suffixe);
 }
 
 int EntreeDeLigne(const Catalogue& c, int rang) { return rang > 9 ? rang + c.NombreHistoire : rang; }

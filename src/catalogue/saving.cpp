@@ -48,7 +48,7 @@ void SauvegardeDic(Catalogue& c, const std::string& dossierDictio, int numero, D
     CopierFichier(nomfic, bak);
   }
   for (const char* prefixe : {"ajout", "s\xE9lection"}) {
-    const std::string numeros = dossierDictio + prefixe + NomFichSeul(nomfic);
+    const std::string numeros = dossierDictio + NomNatif(prefixe) + NomFichSeul(nomfic);
     if (FichierExistant(numeros)) SupprimerFichier(numeros);
   }
 }

@@ -29,7 +29,7 @@ Issue Evenement(Form& f, const std::function<void()>& travail) {
     } catch (const LexError& e) {
       if (!DictionnaireDisparu(f, e)) throw;
       OublieRapport();
-      f.dlg.MessageBox("Le dictionnaire " + f.dico.fichiers.dictio + " est introuvable : retour \xE0 la liste.",
+      f.dlg.MessageBox("Le dictionnaire " + CheminAffiche(f.dico.fichiers.dictio) + " est introuvable : retour \xE0 la liste.",
                        Boutons::OK, Icone::Exclamation, "Dictionnaires");
       EntrerListeDictio(f);
     }

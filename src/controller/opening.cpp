@@ -42,7 +42,7 @@ void AppelDictionnaire(Form& f) {
   const int d = w.DictioCourant;
   const std::string nomfic = FichierALire(c, f.reglages.DossierDictio, d);
   if (!FichierExistant(nomfic)) {
-    f.dlg.MessageBox("dictionnaire " + nomfic + " absent, Ctrl-n pour cr\xE9" "er le premier index ", Boutons::OK,
+    f.dlg.MessageBox("dictionnaire " + CheminAffiche(nomfic) + " absent, Ctrl-n pour cr\xE9" "er le premier index ", Boutons::OK,
                      Icone::Exclamation, "Dictionnaires");
     return;
   }

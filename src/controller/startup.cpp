@@ -26,7 +26,7 @@ void Chargement(Form& f, const std::string& dossierProgramme) {
   r.DossierDictio = r.DossierProgramme;
   if (!f.verrou.Prendre(r.DossierProgramme)) {
     // The other one's files are left as they are: nothing is read, nothing written.
-    f.dlg.MessageBox("Un autre LEX utilise d\xE9j\xE0 le dossier " + r.DossierProgramme +
+    f.dlg.MessageBox("Un autre LEX utilise d\xE9j\xE0 le dossier " + CheminAffiche(r.DossierProgramme) +
                          " : celui-ci se ferme sans toucher \xE0 ses fichiers.",
                      Boutons::OK, Icone::Exclamation, "Dictionnaires");
     f.fenetre.Termine = true;
@@ -50,7 +50,7 @@ void Chargement(Form& f, const std::string& dossierProgramme) {
       if (e.numero() != 7) throw;
       // Not a configuration this program wrote: the factory one takes its place at the end.
       OublieRapport();
-      f.dlg.MessageBox("Le fichier " + r.FichierConfig +
+      f.dlg.MessageBox("Le fichier " + CheminAffiche(r.FichierConfig) +
                            " est trop grand pour \xEAtre une configuration de LEX : il est ignor\xE9 et sera "
                            "remplac\xE9 \xE0 la fermeture.",
                        Boutons::OK, Icone::Exclamation, "Dictionnaires");
@@ -71,7 +71,14 @@ void Chargement(Form& f, const std::string& dossierProgramme) {
     EntrerListeDictio(f);
   }
   // What was refused is said, then left out of the file for good.
-  for (const std::string& texte : refus) f.dlg.MessageBox(texte, Boutons::OK, Icone::Exclamation, "Dictionnaires");
+  // A few boxes at the most, however many lines a damaged file holds.
+  constexpr std::size_t kBoites = 6;
+  for (std::size_t i = 0; i < refus.size() && i < kBoites; ++i) {
+    std::string texte = refus[i];
+    if (i + 1 == kBoites && refus.size() > kBoites)
+      texte += " Et " + std::to_string(refus.size() - kBoites) + " autres lignes ignor\xE9" "es.";
+    f.dlg.MessageBox(texte, Boutons::OK, Icone::Exclamation, "Dictionnaires");
+  }
   if (premiere) EcrireLignes(r.FichierConfig, lignes);
   else if (!refus.empty())
     EcrireLignes(r.FichierConfig, LignesConfig(f.catalogue, r, f.fenetre.ListeHistoire, f.fenetre.DictioCourant));
@@ -89,7 +96,7 @@ void quitter(Form& f) {
         break;
       case Reponse::No: {
         const std::string selection =
-            f.reglages.DossierDictio + "s\xE9lection" + NomFichSeul(NomDictionnaire(c, f.reglages.DossierDictio, i));
+            f.reglages.DossierDictio + NomNatif("s\xE9lection") + NomFichSeul(NomDictionnaire(c, f.reglages.DossierDictio, i));
         if (FichierExistant(selection)) SupprimerFichier(selection);
         break;
       }

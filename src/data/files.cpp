@@ -13,15 +13,16 @@
 namespace lex {
 namespace fs = std::filesystem;
 
-fs::path CheminNatif(std::string_view nom) {
-  std::string utf8 = AnsiVersUtf8(nom);
-  return fs::path(std::u8string(utf8.begin(), utf8.end()));
-}
+fs::path CheminNatif(std::string_view chemin) { return fs::path(std::u8string(chemin.begin(), chemin.end())); }
 
 std::string NomDepuisNatif(const fs::path& p) {
   std::u8string u = p.u8string();
-  return Utf8VersAnsi(std::string(u.begin(), u.end()));
+  return std::string(u.begin(), u.end());
 }
+
+std::string NomNatif(std::string_view nomAnsi) { return AnsiVersUtf8(nomAnsi); }
+
+std::string CheminAffiche(std::string_view chemin) { return Utf8VersAnsi(chemin); }
 
 std::string ajoutbackslash(std::string_view chemin) {
   std::string s(chemin);

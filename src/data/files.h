@@ -1,5 +1,9 @@
-// Files and paths. Names are Windows-1252 text in the core and are converted to the file
-// system's own encoding only here. Failures raise the classic run-time errors.
+// Files and paths. A path is kept as the system gave it, in UTF-8 (the system's own bytes on
+// Linux, its wide names on Windows, without loss), never squeezed through Windows-1252: a
+// program folder named "Łódź" works. The names the user sees and types (dictionaries,
+// suffixes) are Windows-1252 text of the core, turned into path text where they are joined to
+// a folder (NomNatif), and paths are turned back into that text only to be shown
+// (CheminAffiche). Failures raise the classic run-time errors.
 #pragma once
 #include <cstdint>
 #include <cstdio>
@@ -17,9 +21,13 @@ inline constexpr char kSeparateur = '\\';
 inline constexpr char kSeparateur = '/';
 #endif
 
-std::filesystem::path CheminNatif(std::string_view nom);
+std::filesystem::path CheminNatif(std::string_view chemin);
 // A path from the file system, as core text.
 std::string NomDepuisNatif(const std::filesystem::path& p);
+// A name of the core (Windows-1252) as it is joined to a folder.
+std::string NomNatif(std::string_view nomAnsi);
+// A path as the user is shown it, in a message or a title ('?' for what Windows-1252 lacks).
+std::string CheminAffiche(std::string_view chemin);
 
 // The path with one folder separator at its end, added only when missing.
 std::string ajoutbackslash(std::string_view chemin);

@@ -5,7 +5,6 @@
 #include <string>
 
 #include "app/headless/script.h"
-#include "base/encoding.h"
 
 int main(int argc, char** argv) {
   std::string dossier, script;
@@ -22,12 +21,12 @@ int main(int argc, char** argv) {
     std::cerr << "usage: lex-headless --dir FOLDER [SCRIPT]\n";
     return 2;
   }
-  const std::string ansi = lex::Utf8VersAnsi(dossier);
-  if (script.empty()) return lex::headless::RunScript(ansi, std::cin, std::cout);
+  // The folder stays the system's own path.
+  if (script.empty()) return lex::headless::RunScript(dossier, std::cin, std::cout);
   std::ifstream in(script, std::ios::binary);
   if (!in) {
     std::cerr << "lex-headless: cannot read " << script << "\n";
     return 2;
   }
-  return lex::headless::RunScript(ansi, in, std::cout);
+  return lex::headless::RunScript(dossier, in, std::cout);
 }

@@ -23,7 +23,8 @@ class LexApp final : public wxApp {
     auto* form = new lex::wx::Form1();
     // When the program ends while loading (an error was reported), the window is already
     // going away, and with it the program, as soon as the event loop runs.
-    if (form->Charger(lex::wx::DepuisWx(exe.GetPath()))) form->Show();
+    // The folder stays the system's own path, in UTF-8.
+    if (form->Charger(exe.GetPath().ToStdString(wxConvUTF8))) form->Show();
     return true;
   }
 };
