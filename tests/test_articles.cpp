@@ -5,43 +5,30 @@
 
 using namespace lex;
 
-namespace {
-// Offsets of the index lines of a file as the index builder counts them.
-std::string Lire(const test::DossierTemp& d, std::int64_t debut, std::int64_t fin, bool derniere) {
-  return LireArticle(d.Chemin("d.txt"), {debut, fin, derniere});
-}
-}  // namespace
-
-TEST(Articles, SeparatorAndLastLineEndsAreTrimmed) {
+// An article read between the offsets of two index lines, as the index builder counts them.
+TEST(Articles, SeparatorsAndLineEndsAreTrimmedAndEveryLineEndsWithCrLf) {
+  struct Cas {
+    std::string fichier;
+    std::int64_t debut, fin;
+    bool derniere;
+    std::string article;
+  };
+  const std::string deux = "mot\r\ndefinition\r\n\r\nautre\r\ndef2\r\n";  // "autre" at 19, end 32
+  const std::string melange = "mot\ndef\n\nautre\r\nx\n\nfin\ny";
   test::DossierTemp d;
-  // "mot" at 0, "definition" at 5, empty at 17, "autre" at 19, "def2" at 26, end 32.
-  d.Ecrire("d.txt", "mot\r\ndefinition\r\n\r\nautre\r\ndef2\r\n");
-  EXPECT_EQ(Lire(d, 0, 19, false), "mot\r\ndefinition");
-  EXPECT_EQ(Lire(d, 19, 32, true), "autre\r\ndef2");
-}
-
-TEST(Articles, UnusualEndsAndSeparators) {
-  test::DossierTemp d;
-  d.Ecrire("d.txt", "a\r\nb");  // no final line end: the last article is whole
-  EXPECT_EQ(Lire(d, 0, 4, true), "a\r\nb");
-  d.Ecrire("d.txt", "a\r\nb\r\n\r\n");  // two line ends at the end: one stays
-  EXPECT_EQ(Lire(d, 0, 8, true), "a\r\nb\r\n");
-  d.Ecrire("d.txt", "a\r\nb\r\n\r\n\r\nc\r\n");  // two empty lines between: one line end stays
-  EXPECT_EQ(Lire(d, 0, 10, false), "a\r\nb\r\n");
-  d.Ecrire("d.txt", "\r\n\r\na\r\nb\r\n\r\nc\r\n");  // empty lines before article 1 belong to it
-  EXPECT_EQ(Lire(d, 0, 12, false), "\r\n\r\na\r\nb");
-}
-
-TEST(Articles, LfOnlyAndMixedFilesGiveCrLfArticles) {
-  test::DossierTemp d;
-  d.Ecrire("d.txt", "mot\ndef\n\nautre\r\nx\n\nfin\ny");
-  EXPECT_EQ(Lire(d, 0, 9, false), "mot\r\ndef");
-  EXPECT_EQ(Lire(d, 9, 19, false), "autre\r\nx");
-  EXPECT_EQ(Lire(d, 19, 24, true), "fin\r\ny");
-}
-
-TEST(Articles, ReadingPastTheEndOfAShrunkFileGivesBlanks) {
-  test::DossierTemp d;
-  d.Ecrire("d.txt", "mot\r\n");
-  EXPECT_EQ(Lire(d, 0, 8, true), "mot\r\n   ");
+  for (const Cas& c : std::vector<Cas>{
+           {deux, 0, 19, false, "mot\r\ndefinition"},
+           {deux, 19, 32, true, "autre\r\ndef2"},
+           {"a\r\nb", 0, 4, true, "a\r\nb"},                         // no final line end: the last article is whole
+           {"a\r\nb\r\n\r\n", 0, 8, true, "a\r\nb\r\n"},             // two line ends at the end: one stays
+           {"a\r\nb\r\n\r\n\r\nc\r\n", 0, 10, false, "a\r\nb\r\n"},  // two empty lines between: one line end stays
+           {"\r\n\r\na\r\nb\r\n\r\nc\r\n", 0, 12, false, "\r\n\r\na\r\nb"},  // empty lines before article 1 belong to it
+           {melange, 0, 9, false, "mot\r\ndef"},                     // LF only, and mixed
+           {melange, 9, 19, false, "autre\r\nx"},
+           {melange, 19, 24, true, "fin\r\ny"},
+           {"mot\r\n", 0, 8, true, "mot\r\n   "},  // past the end of a file shrunk since: blanks
+       }) {
+    d.Ecrire("d.txt", c.fichier);
+    EXPECT_EQ(LireArticle(d.Chemin("d.txt"), {c.debut, c.fin, c.derniere}), c.article) << c.fichier << " " << c.debut;
+  }
 }

@@ -56,21 +56,6 @@ TEST(SearchCommands, CancelledAnswersChangeNothing) {
   EXPECT_EQ(IndexAbsolu(b.f), 4);
 }
 
-TEST(SearchCommands, BeginningOfIndex) {
-  Banc b;
-  b.Menu(M::mnuRechercheindex, "chi");  // nearest: the longest common beginning
-  EXPECT_EQ(b.f.fenetre.PremierIndexAffiche, 4);
-  EXPECT_EQ(b.Dit(), "chien");
-  const std::size_t dits = b.ui.messages.size();
-  b.Menu(M::mnuRechercheindex, "Loup");  // exact: no announcement
-  EXPECT_EQ(b.f.fenetre.PremierIndexAffiche, 9);
-  EXPECT_EQ(b.ui.messages.size(), dits);
-  b.Menu(M::mnuRechercheindex, "-.!");
-  EXPECT_EQ(b.Dit(), "index invalide");
-  b.Menu(M::mnuRechercheindex, "1x");  // nothing in common: the first entry
-  EXPECT_EQ(b.Dit(), "abeille");
-}
-
 // The scenarios follow a list and the way back from it; here, a list searched again.
 TEST(SearchCommands, AResultListIsNarrowedBySearchingItAgain) {
   Banc b;

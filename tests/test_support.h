@@ -10,6 +10,13 @@
 
 namespace lex::test {
 
+inline std::string Octets(const std::filesystem::path& chemin) {
+  std::ifstream in(chemin, std::ios::binary);
+  std::stringstream s;
+  s << in.rdbuf();
+  return s.str();
+}
+
 class DossierTemp {
  public:
   DossierTemp() {
@@ -28,22 +35,12 @@ class DossierTemp {
   void Ecrire(const std::string& nom, const std::string& octets) const {
     std::ofstream(CheminNatif(Chemin(nom)), std::ios::binary) << octets;
   }
-  std::string Lire(const std::string& nom) const {
-    std::ifstream in(CheminNatif(Chemin(nom)), std::ios::binary);
-    std::stringstream s;
-    s << in.rdbuf();
-    return s.str();
-  }
+  std::string Lire(const std::string& nom) const { return Octets(CheminNatif(Chemin(nom))); }
 
  private:
   std::filesystem::path chemin_;
 };
 
-inline std::string Fixture(const std::string& nom) {
-  std::ifstream in(std::string(LEX_FIXTURES) + "/" + nom, std::ios::binary);
-  std::stringstream s;
-  s << in.rdbuf();
-  return s.str();
-}
+inline std::string Fixture(const std::string& nom) { return Octets(std::string(LEX_FIXTURES) + "/" + nom); }
 
 }  // namespace lex::test
