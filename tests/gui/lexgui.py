@@ -225,11 +225,7 @@ class Fenetre:
     def _application(self):
         if self.proc.poll() is not None:
             raise Echec("lex exited at start with status %d" % self.proc.returncode)
-        d = pyatspi.Registry.getDesktop(0)
-        for a in d:
-            if a is not None and a.name == "lex":
-                return a
-        return None
+        return next((a for a in pyatspi.Registry.getDesktop(0) if a is not None and a.name == "lex"), None)
 
     def _textes(self):
         t = [c for c in descendants(self.frame) if role(c) == "text"]

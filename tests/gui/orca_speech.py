@@ -7,9 +7,8 @@ import re
 import shutil
 import subprocess
 import sys
-import time
 
-from lexgui import DELAI, POLL, Echec, Fenetre, dossier_programme, principal, pump
+from lexgui import Fenetre, attendre, dossier_programme, principal, verifie
 
 
 def speech_dispatcher(racine):
@@ -26,11 +25,8 @@ def speech_dispatcher(racine):
     p = subprocess.Popen(["speech-dispatcher", "-s", "-t", "0", "-C", conf], stdout=subprocess.DEVNULL,
                          stderr=subprocess.DEVNULL)
     socket = os.path.join(os.environ["XDG_RUNTIME_DIR"], "speech-dispatcher", "speechd.sock")
-    fin = time.monotonic() + DELAI
-    while not os.path.exists(socket):
-        if p.poll() is not None or time.monotonic() > fin:
-            raise Echec("speech-dispatcher did not start")
-        time.sleep(POLL)
+    attendre(lambda: os.path.exists(socket) or p.poll() is not None, "speech-dispatcher to start")
+    verifie(p.poll() is None, "speech-dispatcher ended at start")
     return p
 
 
@@ -68,23 +64,14 @@ def paroles(journal):
 def entendre(journal, depuis, attendus):
     """Waits until Orca has said, after its utterance number `depuis`, each of `attendus`
     (fragments) in that order; returns the index after the last one."""
-    fin = time.monotonic() + DELAI
-    while True:
-        pump()
-        dites = paroles(journal)
-        i, trouves = depuis, 0
+    def apres_le_dernier():
+        dites, i = paroles(journal), depuis
         for a in attendus:
-            while i < len(dites) and a not in dites[i]:
-                i += 1
-            if i == len(dites):
-                break
-            trouves += 1
-            i += 1
-        if trouves == len(attendus):
-            return i
-        if time.monotonic() > fin:
-            raise Echec("Orca did not say %r in that order; it said %r" % (attendus[trouves:], dites[depuis:]))
-        time.sleep(POLL * 5)
+            i = next((k + 1 for k in range(i, len(dites)) if a in dites[k]), None)
+            if i is None:
+                return None
+        return i
+    return attendre(apres_le_dernier, "Orca to say %r in that order" % (attendus,))
 
 
 def test(lex, lex_headless, racine):
