@@ -114,6 +114,10 @@ def fermer_par_la_case(fenetre_x):
     x.XCloseDisplay(d)
 
 
+def _xdotool(*arguments, check=True):
+    return subprocess.run(["xdotool"] + list(arguments), check=check, capture_output=True, text=True, timeout=DELAI).stdout
+
+
 # --- The window as the bus shows it --------------------------------------------------------
 
 def pump(duree=0.0):
@@ -213,12 +217,11 @@ class Fenetre:
         self.label = attendre(lambda: next((c for c in descendants(self.frame) if role(c) == "notification"), None),
                               "the message line (a notification)")
         self.boutons = [c for c in descendants(self.frame) if role(c) == "push button"]
-        ids = subprocess.run(["xdotool", "search", "--sync", "--onlyvisible", "--pid", str(self.proc.pid)],
-                             capture_output=True, text=True, timeout=DELAI).stdout.split()
+        ids = self._fenetres_x("--sync")
         if not ids:
             raise Echec("no visible X window for lex")
         self.xid = int(ids[0])
-        subprocess.run(["xdotool", "windowfocus", "--sync", str(self.xid)], check=True, timeout=DELAI)
+        self.refocaliser()
         attendre(lambda: a_le_focus(self.txt), "txt to have the focus")
         pump(0.05)
 
@@ -254,7 +257,11 @@ class Fenetre:
     # Keys, as typed on the keyboard.
     def touche(self, *noms):
         for n in noms:
-            subprocess.run(["xdotool", "key", n], check=True, timeout=DELAI)
+            _xdotool("key", n)
+
+    def _fenetres_x(self, *options):
+        """The ids of the visible X windows of lex (none: xdotool fails)."""
+        return _xdotool("search", *options, "--onlyvisible", "--pid", str(self.proc.pid), check=False).split()
 
     # What the window shows now.
     def champ(self):
@@ -283,29 +290,21 @@ class Fenetre:
 
     def dialogue(self, texte):
         """Waits for a window other than the main one, showing a control named `texte`."""
-        def cherche():
-            for d in self.app:
-                if d is not None and d != self.frame and montre(d):
-                    if any(c.name == texte for c in descendants(d)):
-                        return d
-            return None
-        return attendre(cherche, "a dialog saying %r" % texte)
+        return attendre(lambda: next((d for d in self.app if d is not None and d != self.frame and montre(d)
+                                      and any(c.name == texte for c in descendants(d))), None),
+                        "a dialog saying %r" % texte)
 
     def focaliser_dialogue(self):
         """What a window manager does with a dialog it maps: gives it the keyboard focus. Without
         one, keys still reach a modal dialog through the main window, but its controls never
         hold the focus, and Tab does not go round them."""
-        def autre():
-            ids = subprocess.run(["xdotool", "search", "--onlyvisible", "--pid", str(self.proc.pid)],
-                                 capture_output=True, text=True, timeout=DELAI).stdout.split()
-            return next((i for i in ids if int(i) != self.xid), None)
-        x = attendre(autre, "the X window of the dialog")
-        subprocess.run(["xdotool", "windowfocus", "--sync", x], check=True, timeout=DELAI)
+        x = attendre(lambda: next((i for i in self._fenetres_x() if int(i) != self.xid), None), "the X window of the dialog")
+        _xdotool("windowfocus", "--sync", x)
 
     def refocaliser(self):
         """What a window manager does when a dialog it focused goes away: the focus back to the
         main window."""
-        subprocess.run(["xdotool", "windowfocus", "--sync", str(self.xid)], check=True, timeout=DELAI)
+        _xdotool("windowfocus", "--sync", str(self.xid))
 
     def sans_dialogue(self):
         attendre(lambda: not any(d is not None and d != self.frame and montre(d) for d in self.app)
