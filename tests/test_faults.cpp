@@ -13,27 +13,13 @@
 #include "data/files.h"
 #include "data/index_file.h"
 #include "data/write_faults.h"
-#include "test_support.h"
+#include "session.h"
 #include "view/keys.h"
 
 using namespace lex;
 
 namespace {
-struct Machine {
-  test::DossierTemp d;
-  headless::HeadlessWindow ui;
-  Form f{ui, ui};
-  Machine() { d.Ecrire("lex.eng", "chat (n.)\r\ncat\r\n\r\nchien (n.)\r\ndog\r\n"); }
-  ~Machine() { AnnulerPanne(); }
-  void Charge() { EvChargement(f, d.Dossier()); }
-  // As the scripted window delivers a key: what the program leaves goes to the field.
-  void Touche(int code, char c = 0) {
-    if (RouteTouche(f, Champ::Txt, code, 0, c ? UnicodeDeAnsi(c) : 0).auChamp) ui.Shown().Key(code, 0, c);
-  }
-  void Ouvre() {
-    Touche('A', 'a');
-    Touche(Touche::Entree, 13);
-  }
+struct Machine : test::Session {
   void DisquePlein() { ProgrammerPanne({1, 61, true}); }
 };
 }  // namespace

@@ -4,59 +4,39 @@
 #include <filesystem>
 
 #include "data/files.h"
-#include "app/headless/headless_window.h"
-#include "test_support.h"
-#include "base/encoding.h"
-#include "controller/events.h"
-#include "controller/key_route.h"
-#include "controller/form.h"
-#include "view/keys.h"
-#include "controller/line_helpers.h"
+#include "session.h"
 
 using namespace lex;
 
 namespace {
-struct Session {
-  test::DossierTemp d;
-  headless::HeadlessWindow ui;
-  Form f{ui, ui};
-  Session() { d.Ecrire("lex.eng", "chat (n.)\r\ncat\r\n\r\nchien (n.)\r\ndog\r\n"); }
-  void Charge() { EvChargement(f, d.Dossier()); }
-  void Touche(char c) { RouteTouche(f, Champ::Txt, 0, 0, UnicodeDeAnsi(c)); }
-  bool Installe() {
-    return std::any_of(ui.messages.begin(), ui.messages.end(), [](const std::string& m) {
-      return m.find("Installation de l'index  pour ANGLAIS francais") != std::string::npos;
-    });
-  }
-  void Ouvre() {
-    ui.messages.clear();
-    Touche('a');
-    Touche(13);
-  }
-};
+bool Installe(const test::Session& s) {
+  return std::any_of(s.ui.messages.begin(), s.ui.messages.end(), [](const std::string& m) {
+    return m.find("Installation de l'index  pour ANGLAIS francais") != std::string::npos;
+  });
+}
 }  // namespace
 
 TEST(Opening, IndexIsBuiltThenReloadedThenRebuiltWhenTheDictionaryChanges) {
-  Session s;
+  test::Session s;
   s.Charge();
   s.Ouvre();
-  EXPECT_TRUE(s.Installe());
+  EXPECT_TRUE(Installe(s));
   EXPECT_TRUE(FichierExistant(s.d.Chemin("index.lex.eng")) && FichierExistant(s.d.Chemin("lettre.lex.eng")));
 
-  s.Touche(27);
+  s.Tape(27);
   s.Ouvre();
-  EXPECT_FALSE(s.Installe());
+  EXPECT_FALSE(Installe(s));
   EXPECT_EQ(s.ui.messages.back(), " chat (n.)");
 
-  s.Touche(27);
+  s.Tape(27);
   s.d.Ecrire("lex.eng", "chat (n.)\r\ncat\r\n\r\nchien (n.)\r\ndog\r\n\r\nzebre\r\nzebra\r\n");
   s.Ouvre();
-  EXPECT_TRUE(s.Installe());
+  EXPECT_TRUE(Installe(s));
   EXPECT_EQ(s.f.dico.TableIndex.NombreArticle(), 3);
 }
 
 TEST(Opening, MissingDictionaryAndModifiedCopy) {
-  Session s;
+  test::Session s;
   std::filesystem::remove(CheminNatif(s.d.Chemin("lex.eng")));
   s.Charge();
   s.Ouvre();
@@ -69,18 +49,18 @@ TEST(Opening, MissingDictionaryAndModifiedCopy) {
 }
 
 TEST(Opening, CallLetterAsTyped) {
-  Session s;
+  test::Session s;
   s.Charge();
-  s.Touche('\xE9');
+  s.Tape('\xE9');
   EXPECT_EQ(s.ui.txt.CurrentLine().rfind("\xC9" "crivains", 0), 0u);
-  s.Touche('e');
+  s.Tape('e');
   EXPECT_EQ(s.ui.txt.CurrentLine().rfind("ENCYCLOPEDIE", 0), 0u);
-  s.Touche('x');
+  s.Tape('x');
   EXPECT_EQ(s.ui.messages.back(), " introuvable");
 }
 
 TEST(Saving, WorkingCopy) {
-  Session s;
+  test::Session s;
   s.Charge();
   s.Ouvre();
   s.d.Ecrire("s\xE9lectionlex.eng", " 1\r\n");
@@ -101,7 +81,7 @@ TEST(Saving, WorkingCopy) {
 
 TEST(Saving, LeavingAsksForEachChangedDictionary) {
   for (Reponse r : {Reponse::Yes, Reponse::No, Reponse::Cancel}) {
-    Session s;
+    test::Session s;
     s.Charge();
     s.d.Ecrire("lex.eng.bak", "change\r\nx\r\n");
     s.d.Ecrire("s\xE9lectionlex.eng", " 1\r\n");

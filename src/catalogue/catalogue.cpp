@@ -133,18 +133,6 @@ void AjoutLettreAppelDictio(Catalogue& c) {
   for (const auto& e : c.entrees()) largeur = std::max(largeur, e.NomDictio.size());
   ++largeur;
   for (auto& e : c.entrees()) e.LigneListe = complete(e.NomDictio, largeur) + e.LettreAppel;
-  std::string lettres = "ABCEFHIPRV";
-  for (int i = 10 + c.NombreHistoire; i <= c.NombreDictio() - 1; ++i) {
-    const std::string& l = c[i].LettreAppel;
-    if (l == " " || l.empty()) continue;
-    // Inserted before the first smaller letter from the third place on: the string does not
-    // stay sorted, and the prompts list the letters in that order.
-    const auto nouvelle = static_cast<unsigned char>(l[0]);
-    std::size_t k = 2;
-    while (k < lettres.size() && !(nouvelle > static_cast<unsigned char>(lettres[k]))) ++k;
-    lettres.insert(k, 1, l[0]);
-  }
-  c.LettresUtilisees = lettres;
 }
 
 std::string NomDictionnaire(const Catalogue& c, const std::string& dossierDictio, int i) {

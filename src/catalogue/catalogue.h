@@ -28,7 +28,6 @@ class Catalogue {
   void Inserer(int avant, CatalogueEntry e);
 
   std::int16_t NombreHistoire = 0;
-  std::string LettresUtilisees;
   std::vector<CatalogueEntry>& entrees() { return entrees_; }
 
  private:

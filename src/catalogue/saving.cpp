@@ -1,37 +1,9 @@
 #include "catalogue/saving.h"
 
 #include "data/files.h"
-#include "data/folding.h"
 #include "base/error.h"
 
 namespace lex {
-namespace {
-std::size_t Coupure(std::string_view texte) {
-  for (char c : {'(', '[', ','}) {
-    auto p = texte.find(c);
-    if (p != std::string_view::npos) return p;
-  }
-  return std::string_view::npos;
-}
-}  // namespace
-
-std::string CleTete(std::string_view ligne) {
-  auto p = Coupure(ligne);
-  return p == std::string_view::npos ? std::string() : Sansaccent(ligne.substr(0, p));
-}
-
-bool RangeArticle(std::string_view texte, std::string_view cleEntiere, std::string_view cleTete) {
-  const auto p = Coupure(texte);
-  const std::string entiere = Sansaccent(texte);
-  if (p == std::string_view::npos) {
-    return cleTete.empty() ? entiere > cleEntiere : entiere > cleTete;
-  }
-  const std::string tete = Sansaccent(texte.substr(0, p));
-  if (!cleTete.empty()) return tete > cleTete || (tete == cleTete && entiere > cleEntiere);
-  // An existing head equal to the new whole line places the new article first.
-  return tete >= cleEntiere;
-}
-
 void SauvegardeDic(Catalogue& c, const std::string& dossierDictio, int numero, DictionnaireOuvert* ouvert,
                    int dictioOuvert) {
   ErrorTrap trap(" sur SauvegardeDic,");

@@ -12,11 +12,6 @@
 
 namespace lex {
 
-// True when the new article (its two folded keys) goes before the existing index line.
-bool RangeArticle(std::string_view texte, std::string_view cleEntiere, std::string_view cleTete);
-// The head key of an index line: the folded part before its first "(", "[" or ","; empty
-// when it holds none of them.
-std::string CleTete(std::string_view ligne);
 // Saves catalogue entry `numero`; `ouvert`, when given, is the dictionary being read, which
 // is read from the saved file from then on if it is that entry.
 void SauvegardeDic(Catalogue& c, const std::string& dossierDictio, int numero, DictionnaireOuvert* ouvert,

@@ -30,12 +30,6 @@ std::string ajoutbackslash(std::string_view chemin) {
   return s;
 }
 
-std::string Sansbackslash(std::string_view chemin) {
-  std::string s(chemin);
-  if (!s.empty() && (s.back() == '/' || s.back() == '\\')) s.pop_back();
-  return s;
-}
-
 std::string NomFichSeul(std::string_view chemin) {
   auto p = chemin.find_last_of("/\\");
   return std::string(p == std::string_view::npos ? chemin : chemin.substr(p + 1));

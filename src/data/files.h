@@ -31,8 +31,6 @@ std::string CheminAffiche(std::string_view chemin);
 
 // The path with one folder separator at its end, added only when missing.
 std::string ajoutbackslash(std::string_view chemin);
-// The path without a final separator.
-std::string Sansbackslash(std::string_view chemin);
 // The file name without its folder; cuts at either separator.
 std::string NomFichSeul(std::string_view chemin);
 
