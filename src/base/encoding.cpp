@@ -47,6 +47,9 @@ std::string Utf8VersAnsi(std::string_view s) {
       if ((c & 0xC0) != 0x80) ok = false;
       cp = (cp << 6) | (c & 0x3F);
     }
+    // An overlong form ("\xC0\xAF" for "/") is not UTF-8: it must not smuggle in a character.
+    static constexpr char32_t kMinimum[] = {0, 0x80, 0x800, 0x10000};
+    if (ok && n > 0 && cp < kMinimum[n]) ok = false;
     if (!ok) {  // not UTF-8: keep the byte as Latin-1
       out += static_cast<char>(b);
       ++i;
