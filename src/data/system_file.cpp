@@ -124,9 +124,13 @@ int CreerNeuf(const std::filesystem::path& p, Poignee& h) {
   return errno == EEXIST ? kNomPris : Echec();
 }
 
-int EcrireTout(Poignee h, const char* d, std::size_t n) {
+// Writes all of it, a call at a time: `ecrire(d, n, deja)` writes from `d` what it can and
+// says how much, or -1 with errno set.
+template <class F>
+int EcrireEnBoucle(const char* d, std::size_t n, F ecrire) {
+  std::int64_t deja = 0;
   while (n > 0) {
-    const ssize_t e = ::write(h, d, n);
+    const ssize_t e = ecrire(d, n, deja);
     if (e < 0) {
       if (errno == EINTR) continue;
       return Echec();
@@ -134,23 +138,19 @@ int EcrireTout(Poignee h, const char* d, std::size_t n) {
     if (e == 0) return 61;
     d += e;
     n -= static_cast<std::size_t>(e);
+    deja += e;
   }
   return 0;
 }
 
+int EcrireTout(Poignee h, const char* d, std::size_t n) {
+  return EcrireEnBoucle(d, n, [h](const char* p, std::size_t k, std::int64_t) { return ::write(h, p, k); });
+}
+
 int EcrireA(Poignee h, std::int64_t position, const char* d, std::size_t n) {
-  while (n > 0) {
-    const ssize_t e = ::pwrite(h, d, n, static_cast<off_t>(position));
-    if (e < 0) {
-      if (errno == EINTR) continue;
-      return Echec();
-    }
-    if (e == 0) return 61;
-    d += e;
-    n -= static_cast<std::size_t>(e);
-    position += e;
-  }
-  return 0;
+  return EcrireEnBoucle(d, n, [h, position](const char* p, std::size_t k, std::int64_t deja) {
+    return ::pwrite(h, p, k, static_cast<off_t>(position + deja));
+  });
 }
 
 int Synchroniser(Poignee h) {
