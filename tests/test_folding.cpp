@@ -1,13 +1,17 @@
 #include <gtest/gtest.h>
 
 #include "base/encoding.h"
-#include "data/folding.h"
 #include "base/error.h"
+#include "data/folding.h"
 
 using namespace lex;
 
-TEST(Folding, AccentsAndCaseInAllThreeVariants) {
-  for (auto plie : {Sansaccent, SansAccentSeul, SansaccentEpure}) {
+TEST(Folding, AccentsAndCaseInEveryVariant) {
+  auto versTampon = [](std::string_view s) {
+    char dest[64];
+    return std::string(dest, SansaccentEpureVers(s, dest));
+  };
+  for (auto plie : {Sansaccent, SansAccentSeul, SansaccentEpure, +versTampon}) {
     EXPECT_EQ(plie("\xC9l\xE8ve"), "ELEVE");
     EXPECT_EQ(plie("c\x9Cur"), "COEUR");
     EXPECT_EQ(plie("\xC6sop"), "AESOP");
@@ -21,33 +25,25 @@ TEST(Folding, EachVariantRemovesItsOwnPunctuation) {
   EXPECT_EQ(Sansaccent(ane), "LANENM");
   EXPECT_EQ(SansaccentEpure(ane), "LANE(NM)");
   EXPECT_EQ(SansAccentSeul(ane), "L'ANE (N.M.)");
-  EXPECT_EQ(Sansaccent("chat noir"), Sansaccent("CHATNOIR"));
   // Typographic marks: small tilde and the double and left quotes go, the right quote stays.
   EXPECT_EQ(Sansaccent("\x98\x93x\x94\x91y\x92"), "XY\x92");
   EXPECT_EQ(SansaccentEpure("a+b,c[d]"), "A+B,C[D]");
   EXPECT_EQ(Sansaccent("a+b,c[d]{e}\\f/g"), "ABCDEFG");
-  char dest[32];
-  EXPECT_EQ(std::string(dest, SansaccentEpureVers("\xE6t\xE9 (n.m.)", dest)), "AETE(NM)");
 }
 
 TEST(Folding, WordExtraction) {
-  EXPECT_EQ(EXTRAITMOT("le petit chat", 5), "petit");
-  EXPECT_EQ(EXTRAITMOT("le petit chat", 8), "petit");
-  EXPECT_EQ(EXTRAITMOT("le petit chat", 1), "le");
-  EXPECT_EQ(EXTRAITMOT("le petit chat", 3), "");
-  EXPECT_EQ(EXTRAITMOT("le petit chat", 14), "");
+  for (auto [position, mot] : {std::pair{5, "petit"}, {8, "petit"}, {1, "le"}, {3, ""}, {14, ""}})
+    EXPECT_EQ(EXTRAITMOT("le petit chat", position), mot) << position;
   EXPECT_EQ(EXTRAITMOT_separateur("a-b,c", 3, "-,"), "b");
   EXPECT_THROW(EXTRAITMOT("abc", 0), LexError);
 }
 
 TEST(Encoding, RoundTripAndReplacement) {
-  const std::string ansi = "\xE9t\xE9 \x80 \x9C \x85";
-  EXPECT_EQ(AnsiVersUtf8(ansi), "\xC3\xA9t\xC3\xA9 \xE2\x82\xAC \xC5\x93 \xE2\x80\xA6");
-  EXPECT_EQ(Utf8VersAnsi(AnsiVersUtf8(ansi)), ansi);
+  EXPECT_EQ(AnsiVersUtf8("\xE9t\xE9 \x80 \x9C \x85"), "\xC3\xA9t\xC3\xA9 \xE2\x82\xAC \xC5\x93 \xE2\x80\xA6");
+  std::string tous;
+  for (int b = 0; b < 256; ++b) tous += static_cast<char>(b);
+  EXPECT_EQ(Utf8VersAnsi(AnsiVersUtf8(tous)), tous);
   // Outside Windows-1252: replaced, not crashed on; broken UTF-8 kept byte for byte.
   EXPECT_EQ(Utf8VersAnsi("\xE2\x86\x92 \xF0\x9F\x98\x80"), "? ?");
   EXPECT_EQ(Utf8VersAnsi("\xE9t\xC3"), "\xE9t\xC3");
-  std::string tous;
-  for (int b = 0; b < 256; ++b) tous += static_cast<char>(b);
-  EXPECT_EQ(Utf8VersAnsi(AnsiVersUtf8(tous)).size(), 256u);
 }
