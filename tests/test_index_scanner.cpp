@@ -44,7 +44,7 @@ TEST(IndexScanner, AgreesWithALineByLineReadingAcrossBlocks) {
     const auto attendu = Reference(s);
     for (auto [bloc, reserve] :
          {std::pair<std::size_t, std::size_t>{1, 1}, {3, 2}, {7, 4}, {64, 8}, {1 << 19, 1 << 16}}) {
-      Fichier f = OuvrirFichier(d.Chemin("d.txt"), "rb");
+      Fichier f = OuvrirFichier(d.Chemin("d.txt"));
       LecteurIndex lecteur(f.get(), bloc, reserve);
       Lignes lues;
       std::string_view ligne;

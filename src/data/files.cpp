@@ -70,20 +70,20 @@ namespace {
 
 }  // namespace
 
-Fichier OuvrirFichier(std::string_view nom, const char* mode) {
+Fichier OuvrirFichier(std::string_view nom) {
   auto p = CheminNatif(nom);
   errno = 0;
-  Fichier f(std::fopen(p.c_str(), mode));
+  Fichier f(std::fopen(p.c_str(), "rb"));
   if (!f) ErreurOuverture(p);
   return f;
 }
 
-Fichier OuvrirSiPossible(std::string_view nom, const char* mode) {
-  return Fichier(std::fopen(CheminNatif(nom).c_str(), mode));
+Fichier OuvrirSiPossible(std::string_view nom) {
+  return Fichier(std::fopen(CheminNatif(nom).c_str(), "rb"));
 }
 
 void CopierFichier(std::string_view source, std::string_view destination) {
-  Fichier f = OuvrirFichier(source, "rb");
+  Fichier f = OuvrirFichier(source);
   std::error_code ec;
   const auto date = fs::last_write_time(CheminNatif(source), ec);
   EcritureSure copie(destination, Donnees::Utilisateur);
@@ -122,7 +122,7 @@ std::int64_t MemoireLignes(std::string_view tout) {
 }
 
 std::vector<std::string> LireLignes(std::string_view nom) {
-  Fichier f = OuvrirFichier(nom, "rb");
+  Fichier f = OuvrirFichier(nom);
   if (LongueurFichier(nom) > kMemoireLignes) Erreur(7);
   std::string tout;
   char tampon[65536];
@@ -142,7 +142,7 @@ void EcrireLignes(std::string_view nom, const std::vector<std::string>& lignes) 
 
 std::string LireOctets(std::string_view nom, std::int64_t debut, std::int64_t longueur) {
   if (debut < 0 || longueur < 0) Erreur(5);
-  Fichier f = OuvrirFichier(nom, "rb");
+  Fichier f = OuvrirFichier(nom);
   std::string tampon(static_cast<std::size_t>(longueur), ' ');
   if (longueur == 0) return tampon;
   if (std::fseek(f.get(), static_cast<long>(debut), SEEK_SET) != 0) return tampon;

@@ -69,9 +69,10 @@ struct FermeFichier {
   void operator()(std::FILE* f) const { std::fclose(f); }
 };
 using Fichier = std::unique_ptr<std::FILE, FermeFichier>;
-// Opens or raises the classic error (53, 76, 70...).
-Fichier OuvrirFichier(std::string_view nom, const char* mode);
-// Opens, or gives nullptr without a word.
-Fichier OuvrirSiPossible(std::string_view nom, const char* mode);
+// Opens for reading only (every write goes through data/safe_write.h), or raises the classic
+// error (53, 76, 70...).
+Fichier OuvrirFichier(std::string_view nom);
+// Opens for reading, or gives nullptr without a word.
+Fichier OuvrirSiPossible(std::string_view nom);
 
 }  // namespace lex

@@ -157,7 +157,7 @@ void ConstruireIndex(const FichiersIndex& f, bool ordreAlpha, IndexTable& table,
            std::to_string(diag.article) + ";" + texte;
   });
 
-  Fichier dic = OuvrirFichier(f.dictio, "rb");
+  Fichier dic = OuvrirFichier(f.dictio);
   // The time is taken before the scan: a change made while it runs makes the index stale.
   const EtatDictio avant = LireEtatDictio(f.dictio);
   EcritureSure idx(f.index, Donnees::Reconstructible);
@@ -235,7 +235,7 @@ void ConstruireIndex(const FichiersIndex& f, bool ordreAlpha, IndexTable& table,
 void ConstruireTables(std::string_view dictio, IndexTable& table, TableLettre& lettres,
                       const std::function<void()>& bip) {
   ErrorTrap trap(" sur InitIndex");
-  Fichier dic = OuvrirFichier(dictio, "rb");
+  Fichier dic = OuvrirFichier(dictio);
   table.Vider();
   int compteurBip = 0;
   LecteurIndex lecteur(dic.get());
@@ -254,7 +254,7 @@ void ConstruireTables(std::string_view dictio, IndexTable& table, TableLettre& l
 }
 
 std::string VersionIndex(std::string_view fichierIndex) {
-  Fichier f = OuvrirSiPossible(fichierIndex, "rb");
+  Fichier f = OuvrirSiPossible(fichierIndex);
   if (!f) return {};
   char tete[kTailleChamp];
   if (std::fread(tete, 1, kTailleChamp, f.get()) != kTailleChamp) return {};
@@ -290,7 +290,7 @@ bool EnTeteDuProgramme(const char* tete, std::int64_t longueur) {
 EtatIndex LitIndex(const FichiersIndex& f, const EtatDictio& dictio, IndexTable& table, TableLettre& lettres) {
   table.Vider();
   if (VersionIndex(f.index) != kVersionIndex) return EtatIndex::Version;
-  Fichier idx = OuvrirSiPossible(f.index, "rb");
+  Fichier idx = OuvrirSiPossible(f.index);
   if (!idx) return EtatIndex::Perime;
   char tete[2 * kTailleEnreg];
   if (std::fread(tete, 1, sizeof tete, idx.get()) != sizeof tete) return EtatIndex::Perime;
@@ -345,7 +345,7 @@ EtatIndex LireIndex(const FichiersIndex& f, std::int64_t tailleDictio, IndexTabl
 bool EstFichierIndex(std::string_view nom) {
   const std::int64_t longueur = LongueurFichier(nom);
   if (longueur < static_cast<std::int64_t>(2 * kTailleEnreg)) return false;
-  Fichier f = OuvrirSiPossible(nom, "rb");
+  Fichier f = OuvrirSiPossible(nom);
   char tete[2 * kTailleEnreg];
   return f && std::fread(tete, 1, sizeof tete, f.get()) == sizeof tete && EnTeteDuProgramme(tete, longueur);
 }

@@ -11,7 +11,7 @@ namespace {
 bool LitBorne(std::string_view nom, std::string& texte) {
   const std::int64_t longueur = LongueurFichier(nom);
   if (longueur < 0 || longueur > kLongueurMaxLettre) return false;
-  Fichier f = OuvrirSiPossible(nom, "rb");
+  Fichier f = OuvrirSiPossible(nom);
   if (!f) return false;
   texte.resize(static_cast<std::size_t>(longueur));
   texte.resize(std::fread(texte.data(), 1, texte.size(), f.get()));
