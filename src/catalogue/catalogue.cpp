@@ -121,11 +121,14 @@ std::string LigneCatalogue(const CatalogueEntry& e) {
   return l;
 }
 
+namespace {
+// `texte` padded with blanks to `largeur` characters.
 std::string complete(std::string_view texte, std::size_t largeur) {
   std::string s(texte);
   if (s.size() < largeur) s.append(largeur - s.size(), ' ');
   return s;
 }
+}  // namespace
 
 void AjoutLettreAppelDictio(Catalogue& c) {
   ErrorTrap trap("sur AjoutLettreAppelDictio");

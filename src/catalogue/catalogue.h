@@ -48,8 +48,6 @@ inline constexpr std::size_t kLongueurNomMax = 255;
 std::string LigneCatalogue(const CatalogueEntry& e);
 // Display lines in one column, and the call letters in use.
 void AjoutLettreAppelDictio(Catalogue& c);
-// `texte` padded with blanks to `largeur` characters.
-std::string complete(std::string_view texte, std::size_t largeur);
 // Dictionary file of an entry: folder, base name, ".", suffix.
 std::string NomDictionnaire(const Catalogue& c, const std::string& dossierDictio, int i);
 std::string NomIndex(const Catalogue& c, const std::string& dossierDictio, int i);

@@ -168,8 +168,7 @@ void SuiteIndex(Form& f) {
   // A word is looked up in the dictionary's own index, even from a result list.
   w.PileSuite.push_back(f.liste.NumeroDictio(w.IndexCourant));
   f.liste.MontreIndex();
-  const std::int32_t i = MeilleureEntree(f.liste, plie).numero;
-  EntrerIndex(f, i, Annonce::AvantLeTitre);
+  EntrerPage(f, MeilleureEntree(f.liste, plie).numero, Annonce::AvantLeTitre);
 }
 
 void RetourSuiteIndex(Form& f) {

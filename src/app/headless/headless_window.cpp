@@ -73,9 +73,7 @@ std::ostream& Nulle() {
 }
 }  // namespace
 
-HeadlessWindow::HeadlessWindow(std::ostream& out) : out_(out) {
-  txt.lignesPage = rtb.lignesPage = kLignesVisibles;
-}
+HeadlessWindow::HeadlessWindow(std::ostream& out) : out_(out) {}
 HeadlessWindow::HeadlessWindow() : HeadlessWindow(Nulle()) {}
 
 void HeadlessWindow::SetPaneVisible(bool v) {

@@ -5,6 +5,8 @@
 #include <cstddef>
 #include <string>
 
+#include "view/window.h"
+
 namespace lex::headless {
 
 class TextField {
@@ -17,7 +19,7 @@ class TextField {
   void SetSelectionLength(std::size_t n) { length_ = n; }
   bool editable = true;
   // Lines that Page Up and Page Down move by: the lines the field shows.
-  long lignesPage = 26;
+  long lignesPage = kLignesVisibles;
 
   // Line and column of the caret, from 1.
   std::size_t Line() const;
