@@ -8,6 +8,7 @@
 #include "controller/options.h"
 #include "controller/startup.h"
 #include "notepad/notepad.h"
+#include "reports/commands.h"
 #include "search/commands.h"
 
 namespace lex {
@@ -23,6 +24,7 @@ void InscrireCommandes(Form& f) {
   InscrireCommandesCatalogue(r, {f, f.catalogue, f.reglages, f.dico, f.fenetre.DictioCourant});
   InscrireCommandesRecherche(r, {f, f.dlg, f.recherche});
   InscrireCommandesBlocNote(r, f);
+  InscrireCommandesRapports(r, {f, f.catalogue, f.reglages, f.fenetre.DictioCourant});
 }
 
 void ExecuteMenu(Form& f, MenuId id) {

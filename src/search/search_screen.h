@@ -11,7 +11,7 @@
 
 namespace lex {
 
-class EcranRecherche : public Ecran {
+class EcranRecherche : public virtual Ecran {
  public:
   // The list the index page shows.
   virtual const ListeAffichee& Liste() const = 0;

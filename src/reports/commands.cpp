@@ -1,0 +1,7 @@
+#include "reports/commands.h"
+
+namespace lex {
+
+void InscrireCommandesRapports(RegistreCommandes&, PartiesRapports) {}
+
+}  // namespace lex
