@@ -5,9 +5,11 @@
 
 namespace lex {
 
-inline std::string SansBlancs(std::string_view s) {
+inline std::string_view Rogne(std::string_view s) {
   const auto d = s.find_first_not_of(' ');
-  return d == std::string_view::npos ? std::string() : std::string(s.substr(d, s.find_last_not_of(' ') - d + 1));
+  return d == std::string_view::npos ? std::string_view() : s.substr(d, s.find_last_not_of(' ') - d + 1);
 }
+
+inline std::string SansBlancs(std::string_view s) { return std::string(Rogne(s)); }
 
 }  // namespace lex

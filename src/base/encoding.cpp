@@ -61,6 +61,30 @@ std::string Utf8VersAnsi(std::string_view s) {
   return out;
 }
 
+bool EstUtf8(std::string_view s) {
+  bool horsAscii = false;
+  for (std::size_t i = 0; i < s.size();) {
+    const auto b = static_cast<unsigned char>(s[i]);
+    if (b < 0x80) {
+      ++i;
+      continue;
+    }
+    horsAscii = true;
+    const int n = (b >> 5) == 6 ? 1 : (b >> 4) == 14 ? 2 : (b >> 3) == 30 ? 3 : -1;
+    if (n < 0 || i + static_cast<std::size_t>(n) >= s.size()) return false;
+    char32_t cp = b & (0x3F >> n);
+    for (int k = 1; k <= n; ++k) {
+      const auto c = static_cast<unsigned char>(s[i + static_cast<std::size_t>(k)]);
+      if ((c & 0xC0) != 0x80) return false;
+      cp = (cp << 6) | (c & 0x3F);
+    }
+    static constexpr char32_t kMinimum[] = {0, 0x80, 0x800, 0x10000};
+    if (cp < kMinimum[n] || (cp >= 0xD800 && cp <= 0xDFFF) || cp > 0x10FFFF) return false;
+    i += static_cast<std::size_t>(n) + 1;
+  }
+  return horsAscii;
+}
+
 std::string AnsiVersUtf8(std::string_view s) {
   std::string out;
   out.reserve(s.size() + s.size() / 8);

@@ -10,6 +10,9 @@ namespace lex {
 // Malformed UTF-8 bytes are taken as Latin-1 so that nothing is lost silently.
 std::string Utf8VersAnsi(std::string_view utf8);
 
+// Whether `s` holds at least one character beyond ASCII and is UTF-8 throughout (no malformed,
+// overlong or surrogate sequence): text in Windows-1252 with accents practically never is.
+bool EstUtf8(std::string_view s);
 // Windows-1252 to UTF-8; the five undefined bytes map to the C1 control of the same value.
 std::string AnsiVersUtf8(std::string_view ansi);
 

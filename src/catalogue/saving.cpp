@@ -1,11 +1,12 @@
 #include "catalogue/saving.h"
 
 #include "data/files.h"
+#include "selection/number_files.h"
 #include "base/error.h"
 
 namespace lex {
-void SauvegardeDic(Catalogue& c, const std::string& dossierDictio, int numero, DictionnaireOuvert* ouvert,
-                   int dictioOuvert) {
+void SauvegardeDic(Catalogue& c, const std::string& dossierDictio, int numero, const Selections& s,
+                   DictionnaireOuvert* ouvert, int dictioOuvert) {
   ErrorTrap trap(" sur SauvegardeDic,");
   CatalogueEntry& e = c[numero];
   const std::string nomfic = NomDictionnaire(c, dossierDictio, numero);
@@ -19,8 +20,9 @@ void SauvegardeDic(Catalogue& c, const std::string& dossierDictio, int numero, D
   } else if (FichierExistant(nomfic)) {
     CopierFichier(nomfic, bak);
   }
-  for (const char* prefixe : {"ajout", "s\xE9lection"}) {
-    const std::string numeros = dossierDictio + NomNatif(prefixe) + NomFichSeul(nomfic);
+  if (s.GardeNumeros.contains(numero)) return;
+  for (std::string_view prefixe : {kPrefixeAjout, kPrefixeSelection}) {
+    const std::string numeros = NomFichierNumeros(dossierDictio, prefixe, nomfic);
     if (FichierExistant(numeros)) SupprimerFichier(numeros);
   }
 }
@@ -28,7 +30,8 @@ void SauvegardeDic(Catalogue& c, const std::string& dossierDictio, int numero, D
 void InscrireCommandesCatalogue(RegistreCommandes& registre, PartiesCatalogue p) {
   registre.Inscrire(MenuId::mnuEnregistrer,
                     {[p] {
-                       SauvegardeDic(p.catalogue, p.reglages.DossierDictio, p.dictioCourant, &p.dico, p.dictioCourant);
+                       SauvegardeDic(p.catalogue, p.reglages.DossierDictio, p.dictioCourant, p.selections, &p.dico,
+                                     p.dictioCourant);
                        p.ecran.message("enregistrer");
                      },
                      [p] { return DansUnDictionnaire(p.ecran.mode()); }});

@@ -7,6 +7,7 @@
 #include "catalogue/catalogue.h"
 #include "catalogue/settings.h"
 #include "data/open_dictionary.h"
+#include "selection/selections.h"
 #include "view/commands.h"
 #include "view/screen.h"
 
@@ -14,8 +15,9 @@ namespace lex {
 
 // Saves catalogue entry `numero`; `ouvert`, when given, is the dictionary being read, which
 // is read from the saved file from then on if it is that entry.
-void SauvegardeDic(Catalogue& c, const std::string& dossierDictio, int numero, DictionnaireOuvert* ouvert,
-                   int dictioOuvert);
+// The number files of the entry go too, unless they were exported this run.
+void SauvegardeDic(Catalogue& c, const std::string& dossierDictio, int numero, const Selections& s,
+                   DictionnaireOuvert* ouvert, int dictioOuvert);
 
 // What the saving command works on.
 struct PartiesCatalogue {
@@ -23,6 +25,7 @@ struct PartiesCatalogue {
   Catalogue& catalogue;
   const Reglages& reglages;
   DictionnaireOuvert& dico;
+  const Selections& selections;
   // The catalogue entry of the dictionary the user is in.
   const std::int16_t& dictioCourant;
 };

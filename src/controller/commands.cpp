@@ -10,6 +10,7 @@
 #include "notepad/notepad.h"
 #include "reports/commands.h"
 #include "search/commands.h"
+#include "selection/commands.h"
 
 namespace lex {
 
@@ -21,7 +22,8 @@ void InscrireCommandes(Form& f) {
   r.Inscrire(MenuId::mnuPoliceEcran, [&f] { mnuPoliceEcran_Click(f); });
   r.Inscrire(MenuId::mnuAideTxt, [&f] { mnuAideTxt_Click(f); });
   r.Inscrire(MenuId::mnuApropos, [&f] { mnuApropos_Click(f); });
-  InscrireCommandesCatalogue(r, {f, f.catalogue, f.reglages, f.dico, f.fenetre.DictioCourant});
+  InscrireCommandesCatalogue(r, {f, f.catalogue, f.reglages, f.dico, f.selections, f.fenetre.DictioCourant});
+  InscrireCommandesSelection(r, {f, f.dlg, f.selections, f.dico, f.fenetre.DictioCourant, f.reglages.DossierDictio});
   InscrireCommandesRecherche(r, {f, f.dlg, f.recherche});
   InscrireCommandesBlocNote(r, f);
   InscrireCommandesRapports(r, {f, f.catalogue, f.reglages, f.fenetre.DictioCourant});

@@ -8,6 +8,7 @@
 #include "data/folder_lock.h"
 #include "data/open_dictionary.h"
 #include "search/search_state.h"
+#include "selection/selection_screen.h"
 #include "selection/selections.h"
 #include "controller/window_state.h"
 #include "view/commands.h"
@@ -16,7 +17,7 @@
 
 namespace lex {
 
-struct Form final : EcranRecherche {
+struct Form final : EcranRecherche, EcranSelection {
   Form(Fenetre& fenetreUi, Dialogues& dialogues);
   Form(const Form&) = delete;
   Form& operator=(const Form&) = delete;
@@ -49,6 +50,10 @@ struct Form final : EcranRecherche {
   void MontreArticle(std::int32_t i, const std::string& article, std::size_t curseur) override;
   void MontreResultats(std::vector<EntreeTrouvee> entrees, std::string titre) override;
   void ChercheDebut(const std::string& plie) override;
+  void RemontrePage(bool annonce) override;
+  void RechargeIndex() override;
+  std::string FichierDictio() const override;
+  Changement ChangeDictionnaire(const Ecrivain& ecrire) override;
 };
 
 }  // namespace lex

@@ -2,6 +2,7 @@
 
 #include "base/error.h"
 #include "catalogue/opening.h"
+#include "controller/commands.h"
 #include "controller/form.h"
 #include "controller/line_helpers.h"
 #include "controller/message.h"
@@ -52,6 +53,9 @@ void AppelDictionnaire(Form& f) {
       [&f](std::string t) { f.dlg.MessageBox(t, Boutons::OK, Icone::Exclamation, "Dictionnaires"); },
       [&f] { f.ui.Beep(); }};
   OuvreDictionnaire(c, f.reglages.DossierDictio, d, nomfic, f.dico, f.selections, avis);
+  // The number files belong to a dictionary: their commands wait for the first one opened.
+  ActiveMenu(f, MenuId::mnuImporterAjout, true);
+  ActiveMenu(f, MenuId::mnuExporterAjout, true);
   w.PileSuite.clear();
   EntrerIndex(f, c[d].PositionDictio, Annonce::AvantLeTitre);
 }

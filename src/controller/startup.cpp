@@ -10,6 +10,7 @@
 #include "controller/options.h"
 #include "data/files.h"
 #include "data/safe_write.h"
+#include "selection/number_files.h"
 
 namespace lex {
 
@@ -92,11 +93,12 @@ void quitter(Form& f) {
     switch (f.dlg.MessageBox("Souhaitez vous sauvegarder le dictionnaire " + c[i].NomDictio, Boutons::YesNoCancel,
                              Icone::Question, "Dictionnaires")) {
       case Reponse::Yes:
-        SauvegardeDic(c, f.reglages.DossierDictio, i, ouvert ? &f.dico : nullptr, f.fenetre.DictioCourant);
+        SauvegardeDic(c, f.reglages.DossierDictio, i, f.selections, ouvert ? &f.dico : nullptr,
+                      f.fenetre.DictioCourant);
         break;
       case Reponse::No: {
         const std::string selection =
-            f.reglages.DossierDictio + NomNatif("s\xE9lection") + NomFichSeul(NomDictionnaire(c, f.reglages.DossierDictio, i));
+            NomFichierNumeros(f.reglages.DossierDictio, kPrefixeSelection, NomDictionnaire(c, f.reglages.DossierDictio, i));
         if (FichierExistant(selection)) SupprimerFichier(selection);
         break;
       }

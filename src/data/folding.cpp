@@ -69,6 +69,19 @@ std::string Plie(std::string_view texte, const Table& t) {
 
 std::string Sansaccent(std::string_view texte) { return Plie(texte, TableComplete()); }
 std::string SansAccentSeul(std::string_view texte) { return Plie(texte, TableSeule()); }
+
+void SansaccentDans(std::string_view texte, std::string& dest) {
+  const Table& t = TableComplete();
+  dest.resize(2 * texte.size());
+  char* p = dest.data();
+  for (char c : texte) {
+    const Sortie& x = t.sortie[static_cast<unsigned char>(c)];
+    p[0] = x.c[0];
+    p[1] = x.c[1];
+    p += x.n;
+  }
+  dest.resize(static_cast<std::size_t>(p - dest.data()));
+}
 std::string SansaccentEpure(std::string_view texte) { return Plie(texte, TableEpure()); }
 
 std::size_t SansaccentEpureVers(std::string_view texte, char* dest) {

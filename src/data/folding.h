@@ -8,6 +8,8 @@ namespace lex {
 
 // Accents folded, the full punctuation set (blank included) removed, upper-cased.
 std::string Sansaccent(std::string_view texte);
+// The same into `dest`, whose memory is reused: folding a million lines allocates nothing.
+void SansaccentDans(std::string_view texte, std::string& dest);
 // Accents folded and upper-cased; blanks and punctuation kept.
 std::string SansAccentSeul(std::string_view texte);
 // Accents folded, the reduced set removed (comma, plus, brackets kept so that notes can be

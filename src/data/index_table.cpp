@@ -55,10 +55,6 @@ void IndexTable::Verifier(std::int32_t i, bool sentinelle) const {
 std::string_view IndexTable::texte(std::int32_t i) const {
   Verifier(i, true);
   if (i == NombreArticle() + 1) return {};
-  if (!textesChanges_.empty()) {
-    auto it = textesChanges_.find(i);
-    if (it != textesChanges_.end()) return it->second;
-  }
   const Ref& r = refs_[i - 1];
   return {blocs_[r.bloc].get() + r.debut, r.longTexte};
 }
@@ -74,9 +70,20 @@ std::int32_t IndexTable::position(std::int32_t i) const {
   return static_cast<std::size_t>(i) <= positions_.size() ? positions_[i - 1] : taille_;
 }
 
-void IndexTable::ChangerTexte(std::int32_t i, std::string texte) {
+void IndexTable::ChangerTexte(std::int32_t i, std::string_view debut, std::string_view suite) {
   Verifier(i, false);
-  textesChanges_[i] = std::move(texte);
+  // `debut` may lie in the blocks (the old text): blocks never move, and the new text is
+  // written past everything already placed.
+  const std::string_view c = cle(i);
+  const std::size_t longTexte = debut.size() + suite.size();
+  char* p = Place(longTexte + c.size());
+  if (!debut.empty()) std::memcpy(p, debut.data(), debut.size());
+  if (!suite.empty()) std::memcpy(p + debut.size(), suite.data(), suite.size());
+  if (!c.empty()) std::memcpy(p + longTexte, c.data(), c.size());
+  Ref& r = refs_[static_cast<std::size_t>(i - 1)];
+  r = {static_cast<std::uint32_t>(blocs_.size() - 1), static_cast<std::uint32_t>(tailleBloc_ - libre_),
+       static_cast<std::uint32_t>(longTexte), r.longCle};
+  libre_ -= longTexte + c.size();
 }
 
 }  // namespace lex

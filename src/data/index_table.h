@@ -7,7 +7,6 @@
 #include <memory>
 #include <string>
 #include <string_view>
-#include <unordered_map>
 #include <vector>
 
 namespace lex {
@@ -43,8 +42,10 @@ class IndexTable {
   std::int32_t position(std::int32_t i) const;
   std::int32_t TailleDictio() const { return taille_; }
 
-  // Selection and addition marks rewrite an entry's text in memory only.
-  void ChangerTexte(std::int32_t i, std::string texte);
+  // Selection and addition marks rewrite an entry's text in memory only: it becomes `debut`
+  // followed by `suite`. The new text goes into the blocks like the others, so that marking
+  // a million entries costs no allocation per entry and reading them back no look-up.
+  void ChangerTexte(std::int32_t i, std::string_view debut, std::string_view suite = {});
 
  private:
   struct Ref {
@@ -66,7 +67,6 @@ class IndexTable {
   std::vector<Ref> refs_;
   std::vector<std::int32_t> positions_;
   std::int32_t taille_ = 0;
-  std::unordered_map<std::int32_t, std::string> textesChanges_;
 };
 
 }  // namespace lex

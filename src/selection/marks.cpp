@@ -9,17 +9,35 @@ namespace {
 // A marked line stays short enough to be shown and spoken whole.
 constexpr std::size_t kLongueurMarquee = 63;
 constexpr std::string_view kAjoute = " ajout\xE9";
+constexpr std::string_view kSelectionne = " s\xE9lectionn\xE9";
+constexpr std::string_view kSelect = " s\xE9lect";
+constexpr std::string_view kSelAjo = " SelAjo";
+
+bool FinitPar(std::string_view texte, std::string_view fin) {
+  return texte.size() >= fin.size() && texte.substr(texte.size() - fin.size()) == fin;
+}
 }  // namespace
 
-std::string AvecMarqueSelection(std::string_view texte) {
-  if (texte.size() <= kLongueurMarquee) return std::string(texte) + " s\xE9lectionn\xE9";
-  auto p = texte.find(kAjoute);
-  if (p != std::string_view::npos) return std::string(texte.substr(0, p)) + " SelAjo";
-  return std::string(texte.substr(0, kLongueurMarquee)) + " s\xE9lect";
+Marque MarqueSelection(std::string_view texte) {
+  if (texte.size() <= kLongueurMarquee) return {texte.size(), kSelectionne};
+  // A long line has room for one word only: selected and added say so together.
+  if (FinitPar(texte, kAjoute)) return {texte.size() - kAjoute.size(), kSelAjo};
+  return {kLongueurMarquee, kSelect};
 }
 
-std::string AvecMarqueAjout(std::string_view texte) {
-  return std::string(texte.substr(0, std::min(texte.size(), kLongueurMarquee))) + std::string(kAjoute);
+Marque MarqueAjout(std::string_view texte) { return {std::min(texte.size(), kLongueurMarquee), kAjoute}; }
+
+Marque SansMarqueSelection(std::string_view texte) {
+  // Only the last word is a mark: an entry may hold "sélect" of its own ("sélection (n.f.)").
+  if (FinitPar(texte, kSelAjo)) return {texte.size() - kSelAjo.size(), kAjoute};
+  if (FinitPar(texte, kSelectionne)) return {texte.size() - kSelectionne.size(), {}};
+  if (FinitPar(texte, kSelect)) return {texte.size() - kSelect.size(), {}};
+  return {texte.size(), {}};
+}
+
+void Applique(IndexTable& t, std::int32_t n, Marque m) {
+  const std::string_view texte = t.texte(n);
+  t.ChangerTexte(n, texte.substr(0, std::min(m.garde, texte.size())), m.mot);
 }
 
 namespace {
@@ -33,13 +51,13 @@ const std::vector<std::int32_t>& Numeros(const std::map<int, std::vector<std::in
 void TestAjout(IndexTable& t, const Selections& s, int dictio) {
   ErrorTrap trap(" sur TestAjout");
   for (std::int32_t n : Numeros(s.TableAjout, dictio))
-    if (n >= 1 && n <= t.NombreArticle()) t.ChangerTexte(n, AvecMarqueAjout(t.texte(n)));
+    if (n >= 1 && n <= t.NombreArticle()) Applique(t, n, MarqueAjout(t.texte(n)));
 }
 
 void TestSelection(IndexTable& t, const Selections& s, int dictio) {
   ErrorTrap trap(" sur TestSelection");
   for (std::int32_t n : Numeros(s.TableSelection, dictio))
-    if (n >= 1 && n <= t.NombreArticle()) t.ChangerTexte(n, AvecMarqueSelection(t.texte(n)));
+    if (n >= 1 && n <= t.NombreArticle()) Applique(t, n, MarqueSelection(t.texte(n)));
 }
 
 }  // namespace lex

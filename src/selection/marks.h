@@ -1,7 +1,7 @@
 // Selection and addition marks: words appended to an entry's index line in memory, so that
 // the screen reader speaks them with the line.
 #pragma once
-#include <string>
+#include <cstdint>
 #include <string_view>
 
 #include "data/index_table.h"
@@ -9,10 +9,21 @@
 
 namespace lex {
 
+// A marked text: the first `garde` characters of the old one, then `mot`.
+struct Marque {
+  std::size_t garde;
+  std::string_view mot;
+};
+
 // The index line carrying the selection mark.
-std::string AvecMarqueSelection(std::string_view texte);
+Marque MarqueSelection(std::string_view texte);
 // The index line carrying the addition mark.
-std::string AvecMarqueAjout(std::string_view texte);
+Marque MarqueAjout(std::string_view texte);
+// The index line without its selection mark (an entry both selected and added keeps the
+// addition mark); the whole line when it carries none.
+Marque SansMarqueSelection(std::string_view texte);
+void Applique(IndexTable& t, std::int32_t n, Marque m);
+
 // Put the marks of catalogue entry `dictio` back on its index table after it was (re)loaded.
 void TestAjout(IndexTable& t, const Selections& s, int dictio);
 void TestSelection(IndexTable& t, const Selections& s, int dictio);

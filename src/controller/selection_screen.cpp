@@ -1,0 +1,47 @@
+// The screen as the selection and exchange commands see it.
+#include "catalogue/opening.h"
+#include "catalogue/working_copy.h"
+#include "controller/form.h"
+#include "controller/line_helpers.h"
+#include "controller/message.h"
+#include "controller/modes.h"
+#include "controller/paging.h"
+
+namespace lex {
+
+namespace {
+AvisOuverture AvisDe(Form& f) {
+  return {[&f](std::string t) { message(f, std::move(t)); },
+          [&f](std::string t) { f.dlg.MessageBox(t, Boutons::OK, Icone::Exclamation, "Dictionnaires"); },
+          [&f] { f.ui.Beep(); }};
+}
+}  // namespace
+
+void Form::RemontrePage(bool annonce) {
+  if (!SurUneListe(fenetre.ModeCourant())) return;
+  // A mark lengthens its line: the caret goes back to the start of the same line.
+  const std::int32_t ligne = LigneCurseur(*this);
+  InitTableIndex(*this);
+  ui.SetLineSelection(DebutLigne(ui.GetLineText(), ligne), 0);
+  if (annonce) AnnonceLigneCourante(*this);
+}
+
+void Form::RechargeIndex() {
+  const int d = fenetre.DictioCourant;
+  OuvreDictionnaire(catalogue, reglages.DossierDictio, d, dico.fichiers.dictio, dico, selections, AvisDe(*this));
+  RemontrePage(false);
+}
+
+std::string Form::FichierDictio() const { return NomDictionnaire(catalogue, reglages.DossierDictio, fenetre.DictioCourant); }
+
+Changement Form::ChangeDictionnaire(const Ecrivain& ecrire) {
+  const std::int32_t ici = liste.Nombre() > 0 ? liste.NumeroDictio(EntreeCourante()) : 1;
+  Changement ch =
+      ChangeCopieTravail(catalogue, reglages.DossierDictio, fenetre.DictioCourant, dico, selections, ecrire, AvisDe(*this));
+  fenetre.PileSuite.clear();
+  // A result list names entries by numbers the change moved: the index takes its place.
+  EntrerIndex(*this, ch.Nouveau(ici), Annonce::Non);
+  return ch;
+}
+
+}  // namespace lex

@@ -1,0 +1,103 @@
+#include "data/article_merge.h"
+
+#include <algorithm>
+#include <memory>
+
+#include "data/files.h"
+#include "data/index_scanner.h"
+
+namespace lex {
+
+std::int32_t Changement::Nouveau(std::int32_t n) const {
+  const auto avant = std::upper_bound(inseresAvant.begin(), inseresAvant.end(), n) - inseresAvant.begin();
+  return n + static_cast<std::int32_t>(avant);
+}
+
+std::vector<std::int32_t> Changement::NumerosInseres() const {
+  std::vector<std::int32_t> v;
+  v.reserve(inseresAvant.size());
+  for (std::size_t j = 0; j < inseresAvant.size(); ++j) v.push_back(inseresAvant[j] + static_cast<std::int32_t>(j));
+  return v;
+}
+
+namespace {
+
+// The bytes of the dictionary are copied in big blocks, the index lines found by a second
+// reader of the same file: only they are looked at.
+class Copie {
+ public:
+  Copie(std::string_view source, EcritureSure& cible) : f_(OuvrirFichier(source)), cible_(cible) {}
+
+  void Jusqua(std::int64_t fin) {
+    while (pos_ < fin) {
+      const std::size_t n = static_cast<std::size_t>(std::min<std::int64_t>(kBloc, fin - pos_));
+      const std::size_t lu = std::fread(tampon_.get(), 1, n, f_.get());
+      if (lu == 0) break;
+      Ecrire({tampon_.get(), lu});
+      pos_ += static_cast<std::int64_t>(lu);
+    }
+  }
+  void Tout() { Jusqua(INT64_MAX); }
+  void Ecrire(std::string_view s) {
+    if (s.empty()) return;
+    cible_.Ecrire(s);
+    fin_ += s.substr(s.size() - std::min<std::size_t>(s.size(), 3));
+    if (fin_.size() > 3) fin_.erase(0, fin_.size() - 3);
+  }
+  // What was written so far ends with an empty line, or is nothing.
+  bool FinitParLigneVide() const {
+    return fin_.empty() || fin_ == "\n" || fin_ == "\r\n" || fin_.ends_with("\n\n") || fin_.ends_with("\n\r\n");
+  }
+  bool FinitParFinDeLigne() const { return fin_.empty() || fin_.back() == '\n'; }
+
+ private:
+  static constexpr std::size_t kBloc = std::size_t{1} << 20;
+  Fichier f_;
+  EcritureSure& cible_;
+  std::unique_ptr<char[]> tampon_{new char[kBloc]};
+  std::int64_t pos_ = 0;
+  // The last three bytes written, fewer at the start; "\r\n" alone is a file of one empty line.
+  std::string fin_;
+};
+
+}  // namespace
+
+Changement FusionneArticles(std::string_view source, EcritureSure& cible, const std::vector<ClesArticle>& cles,
+                            const std::function<std::string(std::size_t)>& texte) {
+  Changement ch;
+  ch.inseresAvant.reserve(cles.size());
+  Copie copie(source, cible);
+  Fichier f = OuvrirFichier(source);
+  LecteurIndex lecteur(f.get());
+  Rangeur range;
+  std::string_view ligne;
+  std::int64_t offset = 0;
+  std::int32_t k = 0;
+  std::size_t j = 0;
+  while (j < cles.size() && lecteur.Suivante(ligne, offset)) {
+    ++k;
+    if (!range(ligne, cles[j])) continue;
+    copie.Jusqua(offset);
+    do {
+      copie.Ecrire(texte(j));
+      copie.Ecrire("\r\n\r\n");
+      ch.inseresAvant.push_back(k);
+    } while (++j < cles.size() && range(ligne, cles[j]));
+  }
+  copie.Tout();
+  if (j < cles.size()) {
+    // The rest of the dictionary was read to its end: the count is known.
+    while (lecteur.Suivante(ligne, offset)) ++k;
+    if (!copie.FinitParFinDeLigne()) copie.Ecrire("\r\n");
+    if (!copie.FinitParLigneVide()) copie.Ecrire("\r\n");
+    for (bool premier = true; j < cles.size(); ++j, premier = false) {
+      if (!premier) copie.Ecrire("\r\n");
+      copie.Ecrire(texte(j));
+      copie.Ecrire("\r\n");
+      ch.inseresAvant.push_back(k + 1);
+    }
+  }
+  return ch;
+}
+
+}  // namespace lex

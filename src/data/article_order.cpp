@@ -1,0 +1,40 @@
+#include "data/article_order.h"
+
+#include "data/folding.h"
+
+namespace lex {
+
+std::size_t Coupe(std::string_view ligne) {
+  for (char c : {'(', '[', ','})
+    if (const std::size_t p = ligne.find(c); p != std::string_view::npos) return p;
+  return std::string_view::npos;
+}
+
+ClesArticle ClesDe(std::string_view ligne) {
+  const std::size_t p = Coupe(ligne);
+  return {Sansaccent(ligne), p == std::string_view::npos ? std::string() : Sansaccent(ligne.substr(0, p))};
+}
+
+bool Rangeur::operator()(std::string_view texte, const ClesArticle& nouveau) {
+  const std::size_t p = Coupe(texte);
+  SansaccentDans(texte, entiere_);
+  if (p == std::string_view::npos) {
+    if (nouveau.tete.empty()) return entiere_ > nouveau.entiere;
+    return entiere_ > nouveau.tete;
+  }
+  SansaccentDans(texte.substr(0, p), tete_);
+  // A new line without head against an existing head: equal places the new one first.
+  if (nouveau.tete.empty()) return tete_ >= nouveau.entiere;
+  return tete_ > nouveau.tete || (tete_ == nouveau.tete && entiere_ > nouveau.entiere);
+}
+
+bool RangeArticle(std::string_view texte, const ClesArticle& nouveau) { return Rangeur()(texte, nouveau); }
+
+bool AvantDans(const ClesArticle& a, const ClesArticle& b) {
+  const std::string& pa = a.tete.empty() ? a.entiere : a.tete;
+  const std::string& pb = b.tete.empty() ? b.entiere : b.tete;
+  if (pa != pb) return pa < pb;
+  return a.entiere < b.entiere;
+}
+
+}  // namespace lex
