@@ -36,11 +36,19 @@ std::string Form::FichierDictio() const { return NomDictionnaire(catalogue, regl
 
 Changement Form::ChangeDictionnaire(const Ecrivain& ecrire) {
   const std::int32_t ici = liste.Nombre() > 0 ? liste.NumeroDictio(EntreeCourante()) : 1;
+  const std::int32_t premier = fenetre.ModeCourant() == Mode::Index ? fenetre.PremierIndexAffiche : ici;
   Changement ch =
       ChangeCopieTravail(catalogue, reglages.DossierDictio, fenetre.DictioCourant, dico, selections, ecrire, AvisDe(*this));
   fenetre.PileSuite.clear();
-  // A result list names entries by numbers the change moved: the index takes its place.
-  EntrerIndex(*this, ch.Nouveau(ici), Annonce::Non);
+  // The user keeps the page and the line they were on, wherever the change moved them. A
+  // result list names entries by numbers the change moved: the index takes its place.
+  const std::int32_t entree = ch.Nouveau(ici);
+  // The page starts after the entry that stood before it: what went in above the old first
+  // line is on the page.
+  std::int32_t page = ch.Nouveau(premier - 1) + 1;
+  if (entree < page || entree >= page + kLignesPage) page = entree;
+  liste.MontreIndex();
+  EntrerPage(*this, page, Annonce::Non, entree - page + 1);
   return ch;
 }
 

@@ -17,7 +17,8 @@ class Dialogues {
   virtual Reponse MessageBox(const std::string& texte, Boutons boutons, Icone icone, const std::string& titre) = 0;
   // Empty when cancelled.
   virtual std::string InputBox(const std::string& invite, const std::string& titre, const std::string& defaut) = 0;
-  // Paths are Windows-1252 like every other text; empty when cancelled.
+  // The folder given and the path chosen are the system's paths (UTF-8, data/files.h); the
+  // other texts are program text. Empty when cancelled.
   virtual std::string OpenFileDialog(const std::string& titre, const std::string& filtre, const std::string& dossier,
                                      const std::string& nomDefaut) = 0;
   virtual std::string SaveFileDialog(const std::string& titre, const std::string& filtre, const std::string& dossier,

@@ -4,11 +4,13 @@
 #include <streambuf>
 
 #include "base/encoding.h"
+#include "data/files.h"
 
 namespace lex::headless {
 
-std::string Json(const std::string& ansi) {
-  const std::string u = AnsiVersUtf8(ansi);
+std::string Json(const std::string& ansi) { return JsonUtf8(AnsiVersUtf8(ansi)); }
+
+std::string JsonUtf8(const std::string& u) {
   std::string o = "\"";
   for (unsigned char c : u) {
     switch (c) {
@@ -168,9 +170,11 @@ std::string HeadlessWindow::FileDialog(const char* ev, const std::string& titre,
     r = answers.front().text;
     answers.pop_front();
     repondu = true;
+    // A bare name is picked in the folder the dialog opened on, as a user would.
+    if (!r.empty() && !CheminNatif(r).is_absolute()) r = dossier + r;
   }
   out_ << "{\"ev\":\"" << ev << "\",\"title\":" << Json(titre) << ",\"filter\":" << Json(filtre)
-       << ",\"folder\":" << Json(dossier) << ",\"name\":" << Json(nom) << ",\"answer\":" << Json(r)
+       << ",\"folder\":" << JsonUtf8(dossier) << ",\"name\":" << Json(nom) << ",\"answer\":" << JsonUtf8(r)
        << (repondu ? "" : ",\"unanswered\":true") << "}\n";
   return r;
 }

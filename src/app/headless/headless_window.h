@@ -90,5 +90,7 @@ class HeadlessWindow final : public Fenetre, public Dialogues {
 
 // A JSON string literal (UTF-8) of Windows-1252 text.
 std::string Json(const std::string& ansi);
+// The same for text already in UTF-8 (a path).
+std::string JsonUtf8(const std::string& utf8);
 
 }  // namespace lex::headless

@@ -165,7 +165,8 @@ class Runner {
       ans.button = kind == "Yes" ? Reponse::Yes : kind == "No" ? Reponse::No : kind == "OK" ? Reponse::OK : Reponse::Cancel;
     } else if (kind == "input" || kind == "file") {
       ans.kind = kind == "input" ? Answer::Kind::Input : Answer::Kind::File;
-      ans.text = Utf8VersAnsi(value);
+      // A path stays the system's (UTF-8); what is typed is program text.
+      ans.text = kind == "input" ? Utf8VersAnsi(value) : value;
     } else if (kind == "font") {
       auto sp = value.rfind(' ');
       if (sp == std::string::npos) return false;

@@ -171,8 +171,9 @@ std::string WxWindow::ClipboardGetText() {
 std::string WxWindow::FileDialog(long style, const std::string& titre, const std::string& filtre,
                                  const std::string& dossier, const std::string& nomDefaut) {
   const wxString motif = filtre.empty() ? wxString(wxFileSelectorDefaultWildcardStr) : VersWx(filtre);
-  wxFileDialog dlg(c_.form, VersWx(titre), VersWx(dossier), VersWx(nomDefaut), motif, style);
-  return dlg.ShowModal() == wxID_OK ? DepuisWx(dlg.GetPath()) : std::string();
+  // Paths are the system's own bytes, never squeezed through Windows-1252.
+  wxFileDialog dlg(c_.form, VersWx(titre), wxString::FromUTF8(dossier), VersWx(nomDefaut), motif, style);
+  return dlg.ShowModal() == wxID_OK ? std::string(dlg.GetPath().utf8_str()) : std::string();
 }
 
 std::string WxWindow::OpenFileDialog(const std::string& titre, const std::string& filtre, const std::string& dossier,
