@@ -18,7 +18,7 @@ namespace lex::headless {
 struct Answer {
   enum class Kind { Button, Input, File, Font } kind = Kind::Button;
   Reponse button = Reponse::OK;
-  std::string text;  // Windows-1252
+  std::string text;  // program text; a file path is the system's (UTF-8)
   int size = 0;
 };
 
