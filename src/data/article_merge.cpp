@@ -23,26 +23,41 @@ std::vector<std::int32_t> Changement::NumerosInseres() const {
 namespace {
 
 // The bytes of the dictionary are copied in big blocks, the index lines found by a second
-// reader of the same file: only they are looked at.
+// reader of the same file: only they are looked at. What is written goes out in big blocks
+// too, new articles and old bytes alike: one write to the system per article would cost more
+// than the whole copy.
 class Copie {
  public:
-  Copie(std::string_view source, EcritureSure& cible) : f_(OuvrirFichier(source)), cible_(cible) {}
+  Copie(std::string_view source, EcritureSure& cible) : f_(OuvrirFichier(source)), cible_(cible) {
+    tampon_.reserve(2 * kBloc);
+  }
 
   void Jusqua(std::int64_t fin) {
     while (pos_ < fin) {
       const std::size_t n = static_cast<std::size_t>(std::min<std::int64_t>(kBloc, fin - pos_));
-      const std::size_t lu = std::fread(tampon_.get(), 1, n, f_.get());
+      const std::size_t debut = tampon_.size();
+      tampon_.resize(debut + n);
+      const std::size_t lu = std::fread(tampon_.data() + debut, 1, n, f_.get());
+      tampon_.resize(debut + lu);
+      if (lu > 0) Note(std::string_view(tampon_).substr(debut));
+      Vide(false);
       if (lu == 0) break;
-      Ecrire({tampon_.get(), lu});
       pos_ += static_cast<std::int64_t>(lu);
     }
   }
   void Tout() { Jusqua(INT64_MAX); }
   void Ecrire(std::string_view s) {
     if (s.empty()) return;
-    cible_.Ecrire(s);
-    fin_ += s.substr(s.size() - std::min<std::size_t>(s.size(), 3));
-    if (fin_.size() > 3) fin_.erase(0, fin_.size() - 3);
+    tampon_ += s;
+    Note(s);
+    Vide(false);
+  }
+  // Sends what is waiting: all of it, or only once it makes a block.
+  void Vide(bool tout) {
+    if (tampon_.size() >= kBloc || (tout && !tampon_.empty())) {
+      cible_.Ecrire(tampon_);
+      tampon_.clear();
+    }
   }
   // What was written so far ends with an empty line, or is nothing.
   bool FinitParLigneVide() const {
@@ -51,10 +66,14 @@ class Copie {
   bool FinitParFinDeLigne() const { return fin_.empty() || fin_.back() == '\n'; }
 
  private:
+  void Note(std::string_view s) {
+    fin_ += s.substr(s.size() - std::min<std::size_t>(s.size(), 3));
+    if (fin_.size() > 3) fin_.erase(0, fin_.size() - 3);
+  }
   static constexpr std::size_t kBloc = std::size_t{1} << 20;
   Fichier f_;
   EcritureSure& cible_;
-  std::unique_ptr<char[]> tampon_{new char[kBloc]};
+  std::string tampon_;
   std::int64_t pos_ = 0;
   // The last three bytes written, fewer at the start; "\r\n" alone is a file of one empty line.
   std::string fin_;
@@ -97,6 +116,7 @@ Changement FusionneArticles(std::string_view source, EcritureSure& cible, const 
       ch.inseresAvant.push_back(k + 1);
     }
   }
+  copie.Vide(true);
   return ch;
 }
 

@@ -46,6 +46,9 @@ class IndexTable {
   // followed by `suite`. The new text goes into the blocks like the others, so that marking
   // a million entries costs no allocation per entry and reading them back no look-up.
   void ChangerTexte(std::int32_t i, std::string_view debut, std::string_view suite = {});
+  // Room for `octets` bytes of changed texts and their keys in one block: marking every entry
+  // then asks the system for memory once.
+  void ReserverChangements(std::size_t octets) { Place(octets); }
 
  private:
   struct Ref {

@@ -43,9 +43,13 @@ std::int32_t SelectionneListe(Selections& s, IndexTable& t, int dictio, const Li
   std::vector<bool> deja(static_cast<std::size_t>(t.NombreArticle()) + 1);
   for (std::int32_t n : ligne)
     if (n >= 1 && n <= t.NombreArticle()) deja[static_cast<std::size_t>(n)] = true;
-  ligne.reserve(ligne.size() + static_cast<std::size_t>(liste.Nombre()));
+  const std::int32_t nombre = liste.Nombre();
+  ligne.reserve(ligne.size() + static_cast<std::size_t>(nombre));
+  std::size_t octets = 0;
+  for (std::int32_t i = 1; i <= nombre; ++i) octets += t.texte(liste.NumeroDictio(i)).size() + t.cle(liste.NumeroDictio(i)).size() + 12;
+  t.ReserverChangements(octets);
   std::int32_t ajoutes = 0;
-  for (std::int32_t i = 1; i <= liste.Nombre(); ++i) {
+  for (std::int32_t i = 1; i <= nombre; ++i) {
     const std::int32_t n = liste.NumeroDictio(i);
     if (deja[static_cast<std::size_t>(n)]) continue;
     deja[static_cast<std::size_t>(n)] = true;

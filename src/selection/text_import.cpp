@@ -126,8 +126,9 @@ LecteurArticles::LecteurArticles(std::string_view fichier, bool utf8) : f_(Ouvri
 std::string LecteurArticles::Texte(const ArticleImporte& a) {
   const auto longueur = static_cast<std::size_t>(a.fin - a.debut);
   if (a.debut < fenetreDebut_ || a.fin > fenetreDebut_ + static_cast<std::int64_t>(fenetre_.size())) {
-    // A file sorted already is read in order: one read serves the articles that follow.
-    constexpr std::size_t kFenetre = 1 << 16;
+    // A file sorted already is read in order, one read serving the articles that follow; in
+    // any other order each article costs one small read.
+    constexpr std::size_t kFenetre = 1 << 12;
     fenetre_.resize(std::max(longueur, kFenetre));
     if (std::fseek(f_.get(), static_cast<long>(a.debut), SEEK_SET) != 0) Erreur(52);
     fenetre_.resize(std::fread(fenetre_.data(), 1, fenetre_.size(), f_.get()));
