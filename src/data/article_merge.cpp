@@ -28,11 +28,13 @@ namespace {
 // than the whole copy.
 class Copie {
  public:
-  Copie(std::string_view source, EcritureSure& cible) : f_(OuvrirFichier(source)), cible_(cible) {
-    tampon_.reserve(2 * kBloc);
+  Copie(std::string_view source, EcritureSure& cible)
+      : f_(OuvrirFichier(source)), cible_(cible), taille_(std::max<std::int64_t>(LongueurFichier(source), 0)) {
+    tampon_.reserve(std::min<std::size_t>(2 * kBloc, static_cast<std::size_t>(taille_) + 4096));
   }
 
   void Jusqua(std::int64_t fin) {
+    fin = std::min(fin, taille_);
     while (pos_ < fin) {
       const std::size_t n = static_cast<std::size_t>(std::min<std::int64_t>(kBloc, fin - pos_));
       const std::size_t debut = tampon_.size();
@@ -45,7 +47,7 @@ class Copie {
       pos_ += static_cast<std::int64_t>(lu);
     }
   }
-  void Tout() { Jusqua(INT64_MAX); }
+  void Tout() { Jusqua(taille_); }
   void Ecrire(std::string_view s) {
     if (s.empty()) return;
     tampon_ += s;
@@ -74,6 +76,7 @@ class Copie {
   Fichier f_;
   EcritureSure& cible_;
   std::string tampon_;
+  std::int64_t taille_;
   std::int64_t pos_ = 0;
   // The last three bytes written, fewer at the start; "\r\n" alone is a file of one empty line.
   std::string fin_;
@@ -87,7 +90,10 @@ Changement FusionneArticles(std::string_view source, EcritureSure& cible, const 
   ch.inseresAvant.reserve(cles.size());
   Copie copie(source, cible);
   Fichier f = OuvrirFichier(source);
-  LecteurIndex lecteur(f.get());
+  // A small dictionary is read in a block its size, not in the large ones a big one needs.
+  const auto taille = static_cast<std::size_t>(std::max<std::int64_t>(LongueurFichier(source), 0));
+  const std::size_t bloc = std::clamp<std::size_t>(taille + 16, 4096, std::size_t{1} << 19);
+  LecteurIndex lecteur(f.get(), bloc, std::min<std::size_t>(bloc, 1 << 16));
   Rangeur range;
   std::string_view ligne;
   std::int64_t offset = 0;

@@ -16,8 +16,6 @@ namespace {
 
 std::string Compte(std::size_t n, const char* quoi) { return std::to_string(n) + " index " + quoi; }
 
-const std::vector<std::int32_t>& Ligne(std::map<int, std::vector<std::int32_t>>& table, int d) { return table[d]; }
-
 // The same file under two names: importing a dictionary into itself would read what it writes.
 bool MemeFichier(const std::string& a, const std::string& b) {
   std::error_code ec;
@@ -34,8 +32,8 @@ void mnuExporterAjout(PartiesSelection& p) {
   }
   const int d = p.dictioCourant;
   const std::string dictio = p.ecran.FichierDictio();
-  const auto& ajouts = Ligne(p.selections.TableAjout, d);
-  const auto& selection = Ligne(p.selections.TableSelection, d);
+  const auto& ajouts = p.selections.TableAjout[d];
+  const auto& selection = p.selections.TableSelection[d];
   if (!ajouts.empty()) EcrireNumeros(NomFichierNumeros(p.dossierDictio, kPrefixeAjout, dictio), ajouts);
   EcrireNumeros(NomFichierNumeros(p.dossierDictio, kPrefixeSelection, dictio), selection);
   // Exported numbers are worth keeping: saving the dictionary no longer removes them.

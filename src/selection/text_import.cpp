@@ -15,7 +15,10 @@ namespace {
 // than what is worth holding.
 class Lignes {
  public:
-  explicit Lignes(std::string_view fichier) : f_(OuvrirFichier(fichier)) {}
+  explicit Lignes(std::string_view fichier)
+      : f_(OuvrirFichier(fichier)),
+        bloc_(std::clamp<std::size_t>(static_cast<std::size_t>(std::max<std::int64_t>(LongueurFichier(fichier), 0)) + 1, 4096,
+                                      std::size_t{1} << 20)) {}
 
   // The next line without its line end (LF, or CR LF); false at the end.
   bool Suivante(std::string_view& ligne, std::int64_t& offset) {
@@ -42,18 +45,18 @@ class Lignes {
       tampon_.erase(0, p_);
       p_ = 0;
       const std::size_t avant = tampon_.size();
-      tampon_.resize(avant + kBloc);
-      const std::size_t lu = std::fread(tampon_.data() + avant, 1, kBloc, f_.get());
+      tampon_.resize(avant + bloc_);
+      const std::size_t lu = std::fread(tampon_.data() + avant, 1, bloc_, f_.get());
       tampon_.resize(avant + lu);
-      if (lu < kBloc) eof_ = true;
+      if (lu < bloc_) eof_ = true;
     }
   }
   // Where the line after the last one given starts.
   std::int64_t Position() const { return base_ + static_cast<std::int64_t>(p_); }
 
  private:
-  static constexpr std::size_t kBloc = std::size_t{1} << 20;
   Fichier f_;
+  std::size_t bloc_;  // the file's size, up to a large block
   std::string tampon_;
   std::size_t p_ = 0;
   std::int64_t base_ = 0;

@@ -5,12 +5,14 @@ import sys
 from lexgui import Echec, Fenetre, attendre, dossier_programme, egal, headless, principal, pump
 
 # The list, a call letter, opening; moves the field makes itself; following a word of an
-# article and coming back; typed beginnings; the long article; menu shortcuts.
+# article and coming back; typed beginnings; the long article; menu shortcuts; marks heard at
+# the end of the line.
 SCENARIO = ("c c a Enter Down Down Up Up Up Up Ctrl+End Ctrl+Home c Enter Down End" + " Left" * 6 +
-            " Enter Backspace Escape \u00e9 t Backspace Backspace Home z Enter Down Escape Ctrl+a Ctrl+b F9 Escape"
+            " Enter Backspace Escape \u00e9 t Backspace Backspace Home z Enter Down Escape Ctrl+a Ctrl+Down Ctrl+Space Ctrl+z"
+            " Ctrl+b F9 Escape"
             " Down Down Escape").split()
 # The name xdotool gives a key that lex-headless names otherwise.
-XDOTOOL = {"Enter": "Return", "Backspace": "BackSpace", "\u00e9": "eacute"}
+XDOTOOL = {"Enter": "Return", "Backspace": "BackSpace", "\u00e9": "eacute", "Ctrl+Space": "ctrl+space"}
 
 
 def attendus(lex_headless, dossier):
