@@ -4,15 +4,16 @@ import sys
 
 from lexgui import Echec, Fenetre, attendre, dossier_programme, egal, headless, principal, pump
 
-# The list, a call letter, opening; moves the field makes itself; following a word of an
+# The list, call letters (É is not E there), opening; moves the field makes itself; following a word of an
 # article and coming back; typed beginnings; the long article; menu shortcuts; marks heard at
 # the end of the line.
-SCENARIO = ("c c a Enter Down Down Up Up Up Up Ctrl+End Ctrl+Home c Enter Down End" + " Left" * 6 +
+SCENARIO = ("\u00e9 c c a Enter Down Down Up Up Up Up Ctrl+End Ctrl+Home c Enter Down End" + " Left" * 6 +
             " Enter Backspace Escape \u00e9 t Backspace Backspace Home z Enter Down Escape Ctrl+a Ctrl+Down Ctrl+Space Ctrl+z"
             " Ctrl+b F9 Escape"
             " Down Down Escape").split()
 # The name xdotool gives a key that lex-headless names otherwise.
-XDOTOOL = {"Enter": "Return", "Backspace": "BackSpace", "\u00e9": "eacute", "Ctrl+Space": "ctrl+space"}
+# "é" is typed as on a keyboard without the letter: the accent first, then the letter.
+XDOTOOL = {"Enter": "Return", "Backspace": "BackSpace", "\u00e9": "dead_acute e", "Ctrl+Space": "ctrl+space"}
 
 
 def attendus(lex_headless, dossier):
@@ -46,7 +47,7 @@ def test(lex, lex_headless, racine):
     egal((curseur(w), w.titre()), (caret, titre), "caret and title at start")
     for nom, (messages, caret, titre) in zip(SCENARIO, etapes[1:]):
         n = len(w.paroles)
-        w.touche(XDOTOOL.get(nom, nom.replace("Ctrl+", "ctrl+")))
+        w.touche(*XDOTOOL.get(nom, nom.replace("Ctrl+", "ctrl+")).split())
         attendre(lambda: len(w.paroles) >= n + len(messages) and curseur(w) == caret and w.titre() == titre,
                  "after %s: %d messages (got %r), caret %r (now %r), title %r (now %r)"
                  % (nom, len(messages), w.paroles[n:], caret, curseur(w), titre, w.titre()))

@@ -86,6 +86,8 @@ Form1::Form1()
   c.message = LblMessage;
   c.menus = CreeMenus();
   SetMenuBar(c.menus);
+  txt_ = txt;
+  rtb_ = Rtb;
   ui_ = std::make_unique<WxWindow>(c);
   form_ = std::make_unique<Form>(*ui_, *ui_);
 
@@ -133,7 +135,18 @@ void Form1::ToucheBas(wxKeyEvent& e, Champ champ) {
   // GTK gives a read-only text view's printable keys to its input method, and wx then sends
   // no character event for them: the character is taken from the key itself, here, and the
   // whole route runs at key down.
-  if (RouteTouche(*form_, champ, code, Modificateurs(e), gdk_keyval_to_unicode(e.GetRawKeyCode())).auChamp) e.Skip();
+  const int modificateurs = Modificateurs(e);
+  const unsigned keyval = e.GetRawKeyCode();
+  if (!(modificateurs & (kCtrl | kAlt)) && mortes_.Retient(keyval)) return;
+  char32_t c = gdk_keyval_to_unicode(keyval);
+  const bool accentue = mortes_.Attend() && c != 0;
+  if (accentue) c = mortes_.Compose(c);
+  else if (c == 0 && code != 16 && code != 17 && code != 18) mortes_.Oublie();
+  const SuiteTouche suite = RouteTouche(*form_, champ, code, modificateurs, c);
+  if (!suite.auChamp) return;
+  // The input method never saw the accent: the field takes the composed letter from here.
+  if (accentue && suite.caractere) (champ == Champ::Rtb ? rtb_ : txt_)->WriteText(wxString(wxUniChar(suite.caractere)));
+  else e.Skip();
 #else
   if (!lex::ToucheBas(*form_, champ, code, Modificateurs(e))) e.Skip();
 #endif

@@ -6,6 +6,7 @@
 #include <memory>
 #include <string>
 
+#include "app/wx/dead_keys.h"
 #include "app/wx/wx_window.h"
 #include "controller/events.h"
 #include "controller/form.h"
@@ -26,6 +27,9 @@ class Form1 final : public wxFrame {
   void Menu(wxCommandEvent& e);
   void Fermeture(wxCloseEvent& e);
 
+  wxTextCtrl* txt_ = nullptr;
+  wxTextCtrl* rtb_ = nullptr;
+  TouchesMortes mortes_;
   std::unique_ptr<WxWindow> ui_;
   std::unique_ptr<Form> form_;  // after ui_: the form refers to it
 };
