@@ -2,6 +2,7 @@
 
 #include "base/error.h"
 #include "controller/article_view.h"
+#include "controller/comparison.h"
 #include "controller/form.h"
 #include "controller/line_helpers.h"
 #include "controller/message.h"
@@ -40,6 +41,7 @@ void RetourIndex(Form& f) {
       if (RangSousCurseur(f) >= 1) w.DictioCourant = static_cast<std::int16_t>(EntreeDeLigne(f.catalogue, RangSousCurseur(f)));
       EntrerListeDictio(f);
       break;
+    case Mode::ChoixComparaison: AbandonneChoixComparaison(f); break;
     case Mode::ListeResultats: {
       // A result list gives way to the dictionary's own index, on the entry it was on.
       const std::int32_t numero = f.liste.Nombre() > 0 ? f.liste.NumeroDictio(IndexAbsolu(f)) : 1;
@@ -56,15 +58,17 @@ void RetourIndex(Form& f) {
 
 void CmdDic_Click(Form& f) {
   const Mode m = f.fenetre.ModeCourant();
-  if (SurLeCatalogue(m)) AppelDictionnaire(f);
+  if (m == Mode::ChoixComparaison) ValideChoixComparaison(f);
+  else if (SurLeCatalogue(m)) AppelDictionnaire(f);
   else if (SurUneListe(m)) dictionnaire(f);
   else RetourIndex(f);
   FocusChamp(f);
 }
 
 void CmdDivers_Click(Form& f) {
-  // "Liste": back from the page to the list.
-  if (SurUneListe(f.fenetre.ModeCourant())) RetourIndex(f);
+  // "Liste": back from the page to the list; "Annuler": no comparison after all.
+  const Mode m = f.fenetre.ModeCourant();
+  if (SurUneListe(m) || m == Mode::ChoixComparaison) RetourIndex(f);
   FocusChamp(f);
 }
 

@@ -2,6 +2,7 @@
 
 #include "catalogue/saving.h"
 #include "controller/buttons.h"
+#include "controller/comparison.h"
 #include "controller/form.h"
 #include "controller/message.h"
 #include "controller/navigation.h"
@@ -26,7 +27,7 @@ void InscrireCommandes(Form& f) {
   InscrireCommandesSelection(r, {f, f.dlg, f.selections, f.dico, f.fenetre.DictioCourant, f.reglages.DossierDictio});
   InscrireCommandesRecherche(r, {f, f.dlg, f.recherche});
   InscrireCommandesBlocNote(r, f);
-  InscrireCommandesRapports(r, {f, f.catalogue, f.reglages, f.fenetre.DictioCourant});
+  InscrireCommandesRapports(r, PartiesRapportsDe(f));
 }
 
 void ExecuteMenu(Form& f, MenuId id) {

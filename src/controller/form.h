@@ -7,9 +7,11 @@
 #include "catalogue/settings.h"
 #include "data/folder_lock.h"
 #include "data/open_dictionary.h"
+#include "reports/report_screen.h"
 #include "search/search_state.h"
 #include "selection/selection_screen.h"
 #include "selection/selections.h"
+#include "controller/comparison.h"
 #include "controller/window_state.h"
 #include "view/commands.h"
 #include "view/dialogs.h"
@@ -17,7 +19,7 @@
 
 namespace lex {
 
-struct Form final : EcranRecherche, EcranSelection {
+struct Form final : EcranRapports, EcranSelection {
   Form(Fenetre& fenetreUi, Dialogues& dialogues);
   Form(const Form&) = delete;
   Form& operator=(const Form&) = delete;
@@ -35,6 +37,8 @@ struct Form final : EcranRecherche, EcranSelection {
   VerrouDossier verrou;
   // Menu entries the program has disabled; the others are enabled.
   std::map<MenuId, bool> menusInactifs;
+  // Where the user was when the choice of a dictionary to compare with began.
+  PlaceAvantChoix avantComparaison;
 
   // What the subsystems ask of the screen.
   Mode mode() const override { return fenetre.ModeCourant(); }
@@ -50,6 +54,9 @@ struct Form final : EcranRecherche, EcranSelection {
   void MontreArticle(std::int32_t i, const std::string& article, std::size_t curseur) override;
   void MontreResultats(std::vector<EntreeTrouvee> entrees, std::string titre) override;
   void ChercheDebut(const std::string& plie) override;
+  void EntrerChoixComparaison() override;
+  int EntreeChoisie() const override;
+  Place PlaceCurseur() const override;
   void RemontrePage(bool annonce) override;
   void RechargeIndex() override;
   std::string FichierDictio() const override;

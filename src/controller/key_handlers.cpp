@@ -3,6 +3,7 @@
 #include "controller/article_view.h"
 #include "controller/buttons.h"
 #include "controller/commands.h"
+#include "controller/comparison.h"
 #include "controller/form.h"
 #include "controller/navigation.h"
 #include "controller/opening.h"
@@ -66,6 +67,7 @@ bool txt_KeyPress(Form& f, char c) {
   if (c == 13) {
     if (SurUneListe(m)) dictionnaire(f);
     else if (m == Mode::Article) SuiteIndex(f);
+    else if (m == Mode::ChoixComparaison) ValideChoixComparaison(f);
     else AppelDictionnaire(f);
     return true;
   }

@@ -21,6 +21,7 @@ void AfficheStatus(Form& f) {
   switch (w.ModeCourant()) {
     case Mode::ListeDictionnaires:
     case Mode::ListeHistoire: f.ui.SetTitle("LEX"); break;
+    case Mode::ChoixComparaison: f.ui.SetTitle("Comparaisonde 2 dic"); break;
     case Mode::Article: f.ui.SetTitle(w.TexteIndexCourant); break;
     case Mode::ListeResultats: f.ui.SetTitle(f.liste.Titre()); break;
     case Mode::Index:

@@ -22,14 +22,15 @@ void PoseBoutons(Form& f, const char* dic, const char* divers) {
   f.ui.SetButtonVisible(Bouton::CmdDivers, divers != nullptr);
 }
 
-// What both lists of the catalogue share; the caret goes to line `ligne`.
-void EntrerCatalogue(Form& f, Mode m, const std::string& texte, std::int32_t ligne) {
+// What the lists of the catalogue share; the caret goes to line `ligne`.
+void EntrerCatalogue(Form& f, Mode m, const std::string& texte, std::int32_t ligne, const char* dic = "Index",
+                     const char* divers = nullptr) {
   PoseMode(f.fenetre, m);
   f.liste.MontreIndex();
   OublieDebutTape(f);
   MontreDansTxt(f, texte);
   f.ui.FocusLine();
-  PoseBoutons(f, "Index", nullptr);
+  PoseBoutons(f, dic, divers);
   SurNumero(f, texte, ligne);
   AfficheStatus(f);
 }
@@ -53,6 +54,23 @@ void EntrerListeDictio(Form& f) {
 void EntrerListeHistoire(Form& f) {
   f.fenetre.ListeHistoire = true;
   EntrerCatalogue(f, Mode::ListeHistoire, TexteListeHistoire(f.catalogue), f.catalogue[9].PositionDictio + 2);
+}
+
+void EntrerChoixComparaison(Form& f) {
+  EtatFenetre& w = f.fenetre;
+  Catalogue& c = f.catalogue;
+  PlaceAvantChoix& avant = f.avantComparaison;
+  avant = {};
+  if (f.liste.Nombre() > 0) {
+    avant.numero = f.liste.NumeroDictio(f.EntreeCourante());
+    // A result list's page numbers are not the index's: its page starts on the entry.
+    avant.premier = f.liste.EstResultats() ? avant.numero : w.PremierIndexAffiche;
+  }
+  // Leaving the program from the choice reopens the dictionary where the user was.
+  c[w.DictioCourant].PositionDictio = avant.numero;
+  const int d = w.DictioCourant;
+  const int rang = d > 9 && d <= 9 + c.NombreHistoire ? 9 : LigneDeEntree(c, d);
+  EntrerCatalogue(f, Mode::ChoixComparaison, TexteListeDictio(c), rang + 2, "OK", "Annuler");
 }
 
 void EntrerPage(Form& f, std::int32_t premier, Annonce annonce, std::int32_t ligne) {

@@ -14,6 +14,10 @@ struct Form;
 // the current dictionary, that row announced.
 void EntrerListeDictio(Form& f);
 void EntrerListeHistoire(Form& f);
+// The list of dictionaries for choosing the one the open dictionary is compared with, caret
+// on the open dictionary's row (the history group's for a chronology), buttons "OK" and
+// "Annuler"; a result list shown is dropped. The place of the page is kept for coming back.
+void EntrerChoixComparaison(Form& f);
 // Whether entering a page announces the caret's line, and whether before or after the title
 // changes (opening is heard line first, coming back title first).
 enum class Annonce { Non, AvantLeTitre, ApresLeTitre };

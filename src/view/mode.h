@@ -7,6 +7,8 @@ namespace lex {
 enum class Mode {
   ListeDictionnaires,  // the main list of the catalogue
   ListeHistoire,       // the history group's own list
+  ChoixComparaison,    // the list of dictionaries, to choose the one the open dictionary is
+                       // compared with; the open dictionary stays open behind it
   Index,               // a page of the open dictionary's index
   ListeResultats,      // a page of a result list, in place of the index
   Article,             // an article being read
@@ -15,8 +17,11 @@ enum class Mode {
 
 // A page of the index or of a result list is shown.
 inline bool SurUneListe(Mode m) { return m == Mode::Index || m == Mode::ListeResultats; }
-// The list of dictionaries or the history list is shown.
-inline bool SurLeCatalogue(Mode m) { return m == Mode::ListeDictionnaires || m == Mode::ListeHistoire; }
+// A list of the catalogue is shown (for opening a dictionary, or for choosing one to compare
+// with): typed letters move on its rows.
+inline bool SurLeCatalogue(Mode m) {
+  return m == Mode::ListeDictionnaires || m == Mode::ListeHistoire || m == Mode::ChoixComparaison;
+}
 // A dictionary is open: a page of it, or one of its articles.
 inline bool DansUnDictionnaire(Mode m) { return SurUneListe(m) || m == Mode::Article; }
 

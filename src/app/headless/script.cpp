@@ -22,11 +22,15 @@ struct Key {
 // The old numbers of the modes, which the scripts' "show" gives.
 int NumeroMode(Mode m) {
   switch (m) {
+    case Mode::ListeDictionnaires:
+    case Mode::ListeHistoire:
+    case Mode::ChoixComparaison:
+    case Mode::Aide: return 1;
     case Mode::Index:
     case Mode::ListeResultats: return 2;
     case Mode::Article: return 3;
-    default: return 1;
   }
+  return 1;
 }
 
 bool ParseKey(std::string name, Key& k) {
