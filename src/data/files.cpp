@@ -102,6 +102,12 @@ void SupprimerFichier(std::string_view nom) {
   if (ec) ErreurFichier(ec);
 }
 
+void RenommerFichier(std::string_view ancien, std::string_view nouveau) {
+  std::error_code ec;
+  fs::rename(CheminNatif(ancien), CheminNatif(nouveau), ec);
+  if (ec) ErreurFichier(ec);
+}
+
 std::vector<std::string> DecoupeLignes(std::string_view tout) {
   std::vector<std::string> lignes;
   std::size_t debut = 0;

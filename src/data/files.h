@@ -43,6 +43,9 @@ std::int64_t LongueurFichier(std::string_view nom);
 // the destination is the old file or a whole copy, and a failed write raises ErreurEcriture.
 void CopierFichier(std::string_view source, std::string_view destination);
 void SupprimerFichier(std::string_view nom);
+// Gives the file `ancien` the name `nouveau` in one step of the file system; a file already
+// of that name is replaced, so callers check first.
+void RenommerFichier(std::string_view ancien, std::string_view nouveau);
 
 // The lines of a text file, each without its line end; a CR before LF belongs to the line
 // end, so LF-only and mixed files read like CR LF ones. Error 53 when the file is missing;
