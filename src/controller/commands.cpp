@@ -1,5 +1,6 @@
 #include "controller/commands.h"
 
+#include "catalogue/management_commands.h"
 #include "catalogue/saving.h"
 #include "controller/buttons.h"
 #include "controller/comparison.h"
@@ -24,6 +25,7 @@ void InscrireCommandes(Form& f) {
   r.Inscrire(MenuId::mnuAideTxt, [&f] { mnuAideTxt_Click(f); });
   r.Inscrire(MenuId::mnuApropos, [&f] { mnuApropos_Click(f); });
   InscrireCommandesCatalogue(r, {f, f.catalogue, f.reglages, f.dico, f.selections, f.fenetre.DictioCourant});
+  InscrireCommandesGestion(r, {f, f.dlg, f.catalogue, f.selections, f.reglages});
   InscrireCommandesSelection(r, {f, f.dlg, f.selections, f.dico, f.fenetre.DictioCourant, f.reglages.DossierDictio});
   InscrireCommandesRecherche(r, {f, f.dlg, f.recherche});
   InscrireCommandesBlocNote(r, f);

@@ -4,6 +4,7 @@
 #include <map>
 
 #include "catalogue/catalogue.h"
+#include "catalogue/catalogue_screen.h"
 #include "catalogue/settings.h"
 #include "data/folder_lock.h"
 #include "data/open_dictionary.h"
@@ -19,7 +20,7 @@
 
 namespace lex {
 
-struct Form final : EcranRapports, EcranSelection {
+struct Form final : EcranRapports, EcranSelection, EcranCatalogue {
   Form(Fenetre& fenetreUi, Dialogues& dialogues);
   Form(const Form&) = delete;
   Form& operator=(const Form&) = delete;
@@ -61,6 +62,8 @@ struct Form final : EcranRapports, EcranSelection {
   void RechargeIndex() override;
   std::string FichierDictio() const override;
   Changement ChangeDictionnaire(const Ecrivain& ecrire) override;
+  int EntreeSousCurseur() const override;
+  void CatalogueChange(int entree) override;
 };
 
 }  // namespace lex
