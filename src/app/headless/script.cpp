@@ -1,5 +1,6 @@
 #include "app/headless/script.h"
 
+#include <filesystem>
 #include <sstream>
 #include <vector>
 
@@ -8,6 +9,7 @@
 #include "controller/commands.h"
 #include "controller/events.h"
 #include "controller/key_route.h"
+#include "data/files.h"
 #include "view/keys.h"
 
 namespace lex::headless {
@@ -91,9 +93,9 @@ const char* NomBouton(Bouton b) {
 
 class Runner {
  public:
-  Runner(std::ostream& out) : out_(out), win_(out), form_(win_, win_) {}
+  Runner(std::ostream& out, const std::string& dossier) : out_(out), win_(out), form_(win_, win_), dossier_(dossier) {}
 
-  void Load(const std::string& dossier) { EvChargement(form_, dossier); }
+  void Load() { EvChargement(form_, dossier_); }
   bool Ended() const { return win_.quit || form_.fenetre.Termine; }
 
   // Returns false when the line cannot be parsed.
@@ -136,6 +138,7 @@ class Runner {
       return true;
     }
     if (cmd == "answer") return QueueAnswer(rest);
+    if (cmd == "mkdir") return MakeFolder(rest);
     if (cmd == "close") {
       EvFermeture(form_);
       return true;
@@ -154,6 +157,17 @@ class Runner {
     const Champ champ = win_.PaneFocused() ? Champ::Rtb : Champ::Txt;
     const SuiteTouche suite = RouteTouche(form_, champ, k.code, k.shift, k.ch ? UnicodeDeAnsi(k.ch) : 0);
     if (suite.auChamp) win_.Shown().Key(k.code, k.shift, suite.caractere ? AnsiDeUnicode(suite.caractere) : 0);
+    return true;
+  }
+
+  // A folder the user made beforehand, inside the program folder and nowhere else.
+  bool MakeFolder(const std::string& nom) {
+    const std::filesystem::path p = CheminNatif(nom);
+    if (nom.empty() || p.is_absolute() || p.has_root_name()) return false;
+    for (const auto& partie : p)
+      if (partie == "..") return false;
+    std::error_code ec;
+    std::filesystem::create_directories(CheminNatif(ajoutbackslash(dossier_)) / p, ec);
     return true;
   }
 
@@ -201,19 +215,30 @@ class Runner {
   std::ostream& out_;
   HeadlessWindow win_;
   Form form_;
+  std::string dossier_;
 };
+
+// What a script may do before the program starts: answer the questions that start-up may
+// ask, and make the folders a user would have made beforehand.
+bool AvantLeDemarrage(const std::string& line) {
+  return line.rfind("answer ", 0) == 0 || line == "answer" || line.rfind("mkdir ", 0) == 0;
+}
 
 }  // namespace
 
 int RunScript(const std::string& dossierProgramme, std::istream& script, std::ostream& out) {
-  Runner r(out);
-  r.Load(dossierProgramme);
+  Runner r(out, dossierProgramme);
+  bool demarre = false;
   std::string line;
   int numero = 0;
   while (std::getline(script, line)) {
     ++numero;
     if (!line.empty() && line.back() == '\r') line.pop_back();
     if (line.empty() || line[0] == '#') continue;
+    if (!demarre && !AvantLeDemarrage(line)) {
+      r.Load();
+      demarre = true;
+    }
     if (r.Ended()) continue;
     if (!r.Run(line)) {
       out << "{\"ev\":\"error\",\"line\":" << numero << ",\"text\":" << Json(Utf8VersAnsi(line)) << "}\n";
@@ -222,6 +247,7 @@ int RunScript(const std::string& dossierProgramme, std::istream& script, std::os
     }
     out.flush();
   }
+  if (!demarre) r.Load();
   return 0;
 }
 
