@@ -27,14 +27,13 @@ void SauvegardeDic(Catalogue& c, const std::string& dossierDictio, int numero, c
   }
 }
 
-void InscrireCommandesCatalogue(RegistreCommandes& registre, PartiesCatalogue p) {
-  registre.Inscrire(MenuId::mnuEnregistrer,
-                    {[p] {
-                       SauvegardeDic(p.catalogue, p.reglages.DossierDictio, p.dictioCourant, p.selections, &p.dico,
-                                     p.dictioCourant);
-                       p.ecran.message("enregistrer");
-                     },
-                     [p] { return DansUnDictionnaire(p.ecran.mode()); }});
+void EnregistreDictionnaire(PartiesCatalogue p) {
+  if (!DansUnDictionnaire(p.ecran.mode())) {
+    p.ecran.message("choisissez d'abord le dictionnaire");
+    return;
+  }
+  SauvegardeDic(p.catalogue, p.reglages.DossierDictio, p.dictioCourant, p.selections, &p.dico, p.dictioCourant);
+  p.ecran.message("enregistrer");
 }
 
 }  // namespace lex

@@ -29,6 +29,7 @@ struct PartiesCatalogue {
   // The catalogue entry of the dictionary the user is in.
   const std::int16_t& dictioCourant;
 };
-void InscrireCommandesCatalogue(RegistreCommandes& registre, PartiesCatalogue p);
+// Ctrl+S on a dictionary: saves the one the user is in.
+void EnregistreDictionnaire(PartiesCatalogue p);
 
 }  // namespace lex

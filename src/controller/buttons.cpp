@@ -53,12 +53,21 @@ void RetourIndex(Form& f) {
       EntrerListeDictio(f);
       break;
     case Mode::Article: RetourDeLArticle(f); break;
+    case Mode::BlocNote:
+      // Left as it was on disk: back where the notepad was opened from.
+      if (DansUnDictionnaire(w.AvantBlocNote)) EntrerIndex(f, w.EntreeAvantBlocNote, Annonce::ApresLeTitre);
+      else EntrerListeDictio(f);
+      break;
   }
 }
 
 void CmdDic_Click(Form& f) {
   const Mode m = f.fenetre.ModeCourant();
   if (m == Mode::ChoixComparaison) ValideChoixComparaison(f);
+  else if (m == Mode::BlocNote) {
+    PartiesBlocNote p = f.PartiesNote();
+    SauveBlocNote(p);
+  }
   else if (SurLeCatalogue(m)) AppelDictionnaire(f);
   else if (SurUneListe(m)) dictionnaire(f);
   else RetourIndex(f);
@@ -72,6 +81,14 @@ void CmdDivers_Click(Form& f) {
   FocusChamp(f);
 }
 
-void CmdQuitter_Click(Form& f) { quitter(f); }
+void CmdQuitter_Click(Form& f) {
+  // "Annuler" while the notepad is edited.
+  if (f.fenetre.ModeCourant() == Mode::BlocNote) {
+    RetourIndex(f);
+    FocusChamp(f);
+  } else {
+    quitter(f);
+  }
+}
 
 }  // namespace lex

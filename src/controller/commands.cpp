@@ -24,11 +24,19 @@ void InscrireCommandes(Form& f) {
   r.Inscrire(MenuId::mnuPoliceEcran, [&f] { mnuPoliceEcran_Click(f); });
   r.Inscrire(MenuId::mnuAideTxt, [&f] { mnuAideTxt_Click(f); });
   r.Inscrire(MenuId::mnuApropos, [&f] { mnuApropos_Click(f); });
-  InscrireCommandesCatalogue(r, {f, f.catalogue, f.reglages, f.dico, f.selections, f.fenetre.DictioCourant});
+  // Ctrl+S keeps what the user is working on: the notepad, or the dictionary.
+  r.Inscrire(MenuId::mnuEnregistrer, [&f] {
+    if (f.fenetre.ModeCourant() == Mode::BlocNote) {
+      PartiesBlocNote p = f.PartiesNote();
+      EnregistreBlocNote(p);
+    } else {
+      EnregistreDictionnaire({f, f.catalogue, f.reglages, f.dico, f.selections, f.fenetre.DictioCourant});
+    }
+  });
   InscrireCommandesGestion(r, {f, f.dlg, f.catalogue, f.selections, f.reglages});
   InscrireCommandesSelection(r, {f, f.dlg, f.selections, f.dico, f.fenetre.DictioCourant, f.reglages.DossierDictio});
   InscrireCommandesRecherche(r, {f, f.dlg, f.recherche});
-  InscrireCommandesBlocNote(r, f);
+  InscrireCommandesBlocNote(r, f.PartiesNote());
   InscrireCommandesRapports(r, PartiesRapportsDe(f));
 }
 

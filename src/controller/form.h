@@ -8,6 +8,7 @@
 #include "catalogue/settings.h"
 #include "data/folder_lock.h"
 #include "data/open_dictionary.h"
+#include "notepad/notepad.h"
 #include "reports/report_screen.h"
 #include "search/search_state.h"
 #include "selection/selection_screen.h"
@@ -20,7 +21,7 @@
 
 namespace lex {
 
-struct Form final : EcranRapports, EcranSelection, EcranCatalogue {
+struct Form final : EcranRapports, EcranSelection, EcranCatalogue, EcranBlocNote {
   Form(Fenetre& fenetreUi, Dialogues& dialogues);
   Form(const Form&) = delete;
   Form& operator=(const Form&) = delete;
@@ -34,6 +35,7 @@ struct Form final : EcranRapports, EcranSelection, EcranCatalogue {
   EtatFenetre fenetre;
   EtatRecherche recherche;
   Selections selections;
+  BlocNote blocnote;
   RegistreCommandes commandes;
   VerrouDossier verrou;
   // Menu entries the program has disabled; the others are enabled.
@@ -64,6 +66,10 @@ struct Form final : EcranRapports, EcranSelection, EcranCatalogue {
   Changement ChangeDictionnaire(const Ecrivain& ecrire) override;
   int EntreeSousCurseur() const override;
   void CatalogueChange(int entree) override;
+  void MontreBlocNote() override;
+  void GardePage() override;
+  void QuitteBlocNote() override;
+  PartiesBlocNote PartiesNote() { return {*this, dlg, blocnote, reglages.FichierBlocNote}; }
 };
 
 }  // namespace lex

@@ -1,6 +1,7 @@
 #include "controller/message.h"
 
 #include "controller/form.h"
+#include "data/files.h"
 
 namespace lex {
 
@@ -28,6 +29,7 @@ void AfficheStatus(Form& f) {
       if (w.DictioCourant >= 1 && w.DictioCourant <= f.catalogue.NombreDictio())
         f.ui.SetTitle(f.catalogue[w.DictioCourant].NomDictio);
       break;
+    case Mode::BlocNote: f.ui.SetTitle(NomFichSeul(f.blocnote.fichier)); break;
     case Mode::Aide: break;  // the guide keeps the title of where it was asked from
   }
 }

@@ -16,6 +16,9 @@ void PoseMode(EtatFenetre& w, Mode m) { w.mode_ = m; }
 namespace {
 
 void PoseBoutons(Form& f, const char* dic, const char* divers) {
+  // Only the notepad is typed in; every other mode reads.
+  f.ui.SetLineEditable(false);
+  f.ui.SetButtonCaption(Bouton::CmdQuitter, "&Quitter");
   f.ui.SetButtonCaption(Bouton::CmdDic, dic);
   f.ui.SetButtonVisible(Bouton::CmdDic, true);
   if (divers) f.ui.SetButtonCaption(Bouton::CmdDivers, divers);
@@ -111,6 +114,25 @@ void EntrerArticle(Form& f, std::int32_t numero, const std::string& article, std
   if (curseur == std::string::npos) SurNumero(f, article, 2);
   else PoseCurseur(f, curseur);
   AfficheStatus(f);
+}
+
+void EntrerBlocNote(Form& f) {
+  EtatFenetre& w = f.fenetre;
+  const Mode avant = w.ModeCourant();
+  w.AvantBlocNote = avant;
+  w.EntreeAvantBlocNote = DansUnDictionnaire(avant) && f.liste.Nombre() > 0 ? f.liste.NumeroDictio(f.EntreeCourante()) : 1;
+  PoseMode(w, Mode::BlocNote);
+  PoseBoutons(f, "OK", nullptr);
+  f.ui.SetButtonCaption(Bouton::CmdQuitter, "Annuler");
+  OublieDebutTape(f);
+  w.FlecheHautArmee = w.FlecheBasArmee = false;
+  w.PremierIndexAffiche = 1;
+  InitTableIndex(f);
+  f.ui.SetLineEditable(true);
+  f.ui.FocusLine();
+  AfficheStatus(f);
+  if (f.blocnote.lignes.empty()) message(f, "bloc note vide");
+  else AnnonceLigneCourante(f);
 }
 
 void EntrerAide(Form& f, const std::string& texte) {

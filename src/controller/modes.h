@@ -31,6 +31,9 @@ void EntrerIndex(Form& f, std::int32_t premier, Annonce annonce);
 // `curseur` and nothing is announced.
 void EntrerArticle(Form& f, std::int32_t numero, const std::string& article,
                    std::size_t curseur = std::string::npos);
+// The notepad's first page in the index field, typed in; where the user was is kept to go
+// back to.
+void EntrerBlocNote(Form& f);
 // The guide or the about text in place of the field's text, read line by line.
 void EntrerAide(Form& f, const std::string& texte);
 

@@ -16,7 +16,8 @@
 namespace lex {
 namespace {
 
-bool DansIndex(const Form& f) { return SurUneListe(f.fenetre.ModeCourant()); }
+// The notepad's lines turn in pages like the index.
+bool DansIndex(const Form& f) { return SurUneListe(f.fenetre.ModeCourant()) || f.fenetre.ModeCourant() == Mode::BlocNote; }
 
 // New page, caret on `ligne` of it (kept within the page), that line announced: the line
 // the screen reader speaks is the line under the caret. A new page starts with no arrow
@@ -34,6 +35,7 @@ void TournePage(Form& f, std::int32_t premier, std::int32_t ligne) {
 bool PagePrecedente(Form& f, bool surLaLignePrecedente) {
   ErrorTrap trap(" sur IndexPrecedent");
   if (!DansIndex(f)) return false;
+  f.GardePage();
   OublieDebutTape(f);
   const std::int32_t ancien = f.fenetre.PremierIndexAffiche;
   if (ancien != 1) {
@@ -47,9 +49,10 @@ bool PagePrecedente(Form& f, bool surLaLignePrecedente) {
 bool PageSuivante(Form& f, bool surLaPremiereLigne) {
   ErrorTrap trap(" sur IndexSuivant");
   if (!DansIndex(f)) return false;
+  f.GardePage();
   OublieDebutTape(f);
   const std::int32_t premier = f.fenetre.PremierIndexAffiche + kLignesPage;
-  if (premier > f.liste.Nombre()) {
+  if (premier > NombreLignes(f)) {
     f.ui.Beep();
     return true;
   }
@@ -92,6 +95,7 @@ bool Indexsuivant(Form& f) { return PageSuivante(f, false); }
 bool AppelDebutIndex(Form& f) {
   ErrorTrap trap(" sur AppelDebutIndex");
   if (!DansIndex(f)) return false;
+  f.GardePage();
   TournePage(f, 1, 1);
   return true;
 }
@@ -99,7 +103,8 @@ bool AppelDebutIndex(Form& f) {
 bool AppelFinIndex(Form& f) {
   ErrorTrap trap(" sur AppelFinIndex");
   if (!DansIndex(f)) return false;
-  const std::int32_t n = f.liste.Nombre();
+  f.GardePage();
+  const std::int32_t n = NombreLignes(f);
   const std::int32_t premier = DebutDernierePage(n);
   TournePage(f, premier, n - premier + 1);
   return true;

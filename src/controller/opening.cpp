@@ -32,7 +32,8 @@ void AppelDictionnaire(Form& f) {
     w.DictioCourant = static_cast<std::int16_t>(EntreeDeLigne(c, r));
     if (w.DictioCourant > c.NombreDictio()) return;
     if (w.DictioCourant == c.NombreDictio()) {
-      blocnote(f);
+      PartiesBlocNote p = f.PartiesNote();
+      blocnote(p);
       return;
     }
     if (w.DictioCourant == 9) {

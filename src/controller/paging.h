@@ -18,6 +18,9 @@ std::string TextePage(const ListeAffichee& liste, std::int32_t premier);
 // The first line of the last page.
 std::int32_t DebutDernierePage(std::int32_t nombre);
 
+// How many lines the pages go through: the notepad's while it is edited, else the entries
+// of the shown list.
+std::int32_t NombreLignes(const Form& f);
 // Shows the page that starts at PremierIndexAffiche (kept within the list) in txt, the rich
 // text pane hidden, the caret at the start.
 void InitTableIndex(Form& f);

@@ -86,6 +86,10 @@ void Chargement(Form& f, const std::string& dossierProgramme) {
 }
 
 void quitter(Form& f) {
+  if (f.fenetre.ModeCourant() == Mode::BlocNote) {
+    PartiesBlocNote p = f.PartiesNote();
+    if (!QuitteAvecBlocNote(p)) return;
+  }
   Catalogue& c = f.catalogue;
   const bool ouvert = DansUnDictionnaire(f.fenetre.ModeCourant());
   for (int i = 1; i <= c.NombreDictio() - 1; ++i) {

@@ -13,6 +13,7 @@ enum class Mode {
   ListeResultats,      // a page of a result list, in place of the index
   Article,             // an article being read
   Aide,                // the guide or the about text, read line by line
+  BlocNote,            // the notepad, edited page by page in the index field
 };
 
 // A page of the index or of a result list is shown.

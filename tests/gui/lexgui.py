@@ -44,7 +44,7 @@ def ecrire_ansi(chemin, lignes):
 
 
 def dossier_programme(lex, racine):
-    """A fresh program folder: the executable and the test dictionary, nothing else."""
+    """A fresh program folder: the executable, the test dictionary and a notepad, nothing else."""
     dossier = os.path.join(racine, "programme")
     os.makedirs(dossier)
     shutil.copy2(lex, dossier)
@@ -52,6 +52,7 @@ def dossier_programme(lex, racine):
     for a in ARTICLES:
         lignes += a + [""]
     ecrire_ansi(os.path.join(dossier, "lex.eng"), lignes[:-1])
+    ecrire_ansi(os.path.join(dossier, "blocnote.txt"), ["note"])
     return dossier
 
 

@@ -88,6 +88,16 @@ def test(lex, lex_headless, racine):
     w.touche("ctrl+b")
     w.attendre_paroles(n + len(attendu[2]), "Ctrl+B")
     egal(w.paroles[n:], attendu[2], "messages of Ctrl+B")
+    # The notepad is typed in, an accent before its letter included; Escape leaves the file
+    # as it was.
+    w.touche("dead_acute", "e", "space")
+    attendre_egal(lambda: w.texte(w.txt), "\u00e9 note", "the notepad's text after typing")
+    w.touche("Escape")
+    w.attendre_ligne("z\u00e8bre s\u00e9lectionn\u00e9")
+    egal(lire_ansi(os.path.join(dossier, "blocnote.txt")), ["note", ""], "the notepad's file after Escape")
+    # Unselected all at once, the lines lose their marks.
+    w.touche("ctrl+z")
+    w.attendre_ligne("z\u00e8bre")
 
     # Tab leaves the field for the buttons; a button gives the focus back to the field it uses.
     w.touche("Tab")

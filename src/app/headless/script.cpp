@@ -31,6 +31,7 @@ int NumeroMode(Mode m) {
     case Mode::Index:
     case Mode::ListeResultats: return 2;
     case Mode::Article: return 3;
+    case Mode::BlocNote: return 2;
   }
   return 1;
 }

@@ -82,8 +82,16 @@ void TextField::Key(int code, int shift, char ch) {
     case Touche::Droite:
       if (caret_ < text_.size()) SetCaret(text_.compare(caret_, 2, "\r\n") == 0 ? caret_ + 2 : caret_ + 1);
       return;
-    case Touche::Haut: MoveLines(-1); return;
-    case Touche::Bas: MoveLines(1); return;
+    // As in a GTK text view, an arrow with no line to go to goes to the start or the end of
+    // the line it is on.
+    case Touche::Haut:
+      if (LineStart(caret_) == 0) SetCaret(0);
+      else MoveLines(-1);
+      return;
+    case Touche::Bas:
+      if (LineEnd(caret_) >= text_.size()) SetCaret(text_.size());
+      else MoveLines(1);
+      return;
     case Touche::PagePrec: MoveLines(-lignesPage); return;
     case Touche::PageSuiv: MoveLines(lignesPage); return;
     case Touche::Debut: SetCaret(ctrl ? 0 : LineStart(caret_)); return;
