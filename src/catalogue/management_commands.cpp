@@ -32,6 +32,7 @@ std::string RefusNom(const Catalogue& c, const std::string& nom, int propre) {
   for (int i = 1; i <= c.NombreDictio(); ++i)
     if (i != propre && c[i].NomDictio == nom) return "Nom existe d\xE9ja";
   if (nom.find(',') != std::string::npos) return "virgule interdite";
+  if (nom.size() > kLongueurNomMax) return "nom trop long : " + std::to_string(kLongueurNomMax) + " caract\xE8res au plus";
   if (!NomDeFichierPermis(nom)) return "caract\xE8re interdit dans le nom";
   return {};
 }

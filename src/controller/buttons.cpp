@@ -7,6 +7,7 @@
 #include "controller/line_helpers.h"
 #include "controller/message.h"
 #include "controller/modes.h"
+#include "controller/new_dictionary.h"
 #include "controller/opening.h"
 #include "controller/paging.h"
 #include "controller/startup.h"
@@ -53,9 +54,13 @@ void RetourIndex(Form& f) {
       EntrerListeDictio(f);
       break;
     case Mode::Article: RetourDeLArticle(f); break;
+    case Mode::CreationDictio:
+      if (w.AvantSaisie == Mode::ListeHistoire) EntrerListeHistoire(f);
+      else EntrerListeDictio(f);
+      break;
     case Mode::BlocNote:
       // Left as it was on disk: back where the notepad was opened from.
-      if (DansUnDictionnaire(w.AvantBlocNote)) EntrerIndex(f, w.EntreeAvantBlocNote, Annonce::ApresLeTitre);
+      if (DansUnDictionnaire(w.AvantSaisie)) EntrerIndex(f, w.EntreeAvantSaisie, Annonce::ApresLeTitre);
       else EntrerListeDictio(f);
       break;
   }
@@ -64,6 +69,7 @@ void RetourIndex(Form& f) {
 void CmdDic_Click(Form& f) {
   const Mode m = f.fenetre.ModeCourant();
   if (m == Mode::ChoixComparaison) ValideChoixComparaison(f);
+  else if (m == Mode::CreationDictio) SauveCreationDictio(f);
   else if (m == Mode::BlocNote) {
     PartiesBlocNote p = f.PartiesNote();
     SauveBlocNote(p);
@@ -77,7 +83,7 @@ void CmdDic_Click(Form& f) {
 void CmdDivers_Click(Form& f) {
   // "Liste": back from the page to the list; "Annuler": no comparison after all.
   const Mode m = f.fenetre.ModeCourant();
-  if (SurUneListe(m) || m == Mode::ChoixComparaison) RetourIndex(f);
+  if (SurUneListe(m) || m == Mode::ChoixComparaison || m == Mode::CreationDictio) RetourIndex(f);
   FocusChamp(f);
 }
 

@@ -7,6 +7,7 @@
 #include "controller/form.h"
 #include "controller/message.h"
 #include "controller/navigation.h"
+#include "controller/new_dictionary.h"
 #include "controller/options.h"
 #include "controller/startup.h"
 #include "notepad/notepad.h"
@@ -37,6 +38,12 @@ void InscrireCommandes(Form& f) {
   InscrireCommandesSelection(r, {f, f.dlg, f.selections, f.dico, f.fenetre.DictioCourant, f.reglages.DossierDictio});
   InscrireCommandesRecherche(r, {f, f.dlg, f.recherche});
   InscrireCommandesBlocNote(r, f.PartiesNote());
+  // On a list, Ctrl+N types the first article of a dictionary not made yet; the entry of new
+  // articles in a dictionary comes with the editing commands.
+  r.Inscrire(MenuId::mnuCreationIndex, [&f] {
+    if (SurLeCatalogue(f.fenetre.ModeCourant())) CreationDictio(f);
+    else message(f, "commande non disponible dans cette version");
+  });
   InscrireCommandesRapports(r, PartiesRapportsDe(f));
 }
 

@@ -23,7 +23,7 @@ bool txt_KeyDown(Form& f, int code, int shift) {
         return true;
       }
       return false;
-    case Touche::Suppr: return m != Mode::BlocNote;
+    case Touche::Suppr: return m != Mode::BlocNote && m != Mode::CreationDictio;
     case Touche::Haut:
       if (!ctrl) return FlecheHaut(f);
       return false;  // paragraph reading is left to the field
@@ -59,8 +59,8 @@ bool txt_KeyPress(Form& f, char c) {
     return true;
   }
   if (m == Mode::Aide) return true;
-  // In the notepad every other character is typed.
-  if (m == Mode::BlocNote) return false;
+  // In the notepad and a new article every other character is typed.
+  if (m == Mode::BlocNote || m == Mode::CreationDictio) return false;
   if (c == 8) {
     if (SurUneListe(m)) BakSpaceIndex(f);
     else if (m == Mode::Article) RetourSuiteIndex(f);

@@ -19,6 +19,7 @@ void PoseBoutons(Form& f, const char* dic, const char* divers) {
   // Only the notepad is typed in; every other mode reads.
   f.ui.SetLineEditable(false);
   f.ui.SetButtonCaption(Bouton::CmdQuitter, "&Quitter");
+  f.ui.SetButtonVisible(Bouton::CmdQuitter, true);
   f.ui.SetButtonCaption(Bouton::CmdDic, dic);
   f.ui.SetButtonVisible(Bouton::CmdDic, true);
   if (divers) f.ui.SetButtonCaption(Bouton::CmdDivers, divers);
@@ -119,8 +120,8 @@ void EntrerArticle(Form& f, std::int32_t numero, const std::string& article, std
 void EntrerBlocNote(Form& f) {
   EtatFenetre& w = f.fenetre;
   const Mode avant = w.ModeCourant();
-  w.AvantBlocNote = avant;
-  w.EntreeAvantBlocNote = DansUnDictionnaire(avant) && f.liste.Nombre() > 0 ? f.liste.NumeroDictio(f.EntreeCourante()) : 1;
+  w.AvantSaisie = avant;
+  w.EntreeAvantSaisie = DansUnDictionnaire(avant) && f.liste.Nombre() > 0 ? f.liste.NumeroDictio(f.EntreeCourante()) : 1;
   PoseMode(w, Mode::BlocNote);
   PoseBoutons(f, "OK", nullptr);
   f.ui.SetButtonCaption(Bouton::CmdQuitter, "Annuler");
@@ -133,6 +134,21 @@ void EntrerBlocNote(Form& f) {
   AfficheStatus(f);
   if (f.blocnote.lignes.empty()) message(f, "bloc note vide");
   else AnnonceLigneCourante(f);
+}
+
+void EntrerCreationDictio(Form& f, int d) {
+  EtatFenetre& w = f.fenetre;
+  w.AvantSaisie = w.ModeCourant();
+  PoseMode(w, Mode::CreationDictio);
+  w.DictioCourant = static_cast<std::int16_t>(d);
+  OublieDebutTape(f);
+  MontreDansTxt(f, "");
+  PoseBoutons(f, "OK", "Annuler");
+  f.ui.SetButtonVisible(Bouton::CmdQuitter, false);
+  f.ui.SetLineEditable(true);
+  f.ui.FocusLine();
+  AfficheStatus(f);
+  message(f, "tapez l'index puis la d\xE9" "finition");
 }
 
 void EntrerAide(Form& f, const std::string& texte) {

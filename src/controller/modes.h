@@ -34,6 +34,8 @@ void EntrerArticle(Form& f, std::int32_t numero, const std::string& article,
 // The notepad's first page in the index field, typed in; where the user was is kept to go
 // back to.
 void EntrerBlocNote(Form& f);
+// An empty field to type the first article of catalogue entry `d`, a new dictionary.
+void EntrerCreationDictio(Form& f, int d);
 // The guide or the about text in place of the field's text, read line by line.
 void EntrerAide(Form& f, const std::string& texte);
 

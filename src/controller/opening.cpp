@@ -48,17 +48,24 @@ void AppelDictionnaire(Form& f) {
                      Icone::Exclamation, "Dictionnaires");
     return;
   }
+  OuvreEtMontre(f, nomfic, c[d].PositionDictio);
+}
+
+AvisOuverture AvisDe(Form& f) {
+  return {[&f](std::string t) { message(f, std::move(t)); },
+          [&f](std::string t) { f.dlg.MessageBox(t, Boutons::OK, Icone::Exclamation, "Dictionnaires"); },
+          [&f] { f.ui.Beep(); }};
+}
+
+void OuvreEtMontre(Form& f, const std::string& nomfic, std::int32_t entree) {
   f.liste.MontreIndex();
-  const AvisOuverture avis{
-      [&f](std::string t) { message(f, std::move(t)); },
-      [&f](std::string t) { f.dlg.MessageBox(t, Boutons::OK, Icone::Exclamation, "Dictionnaires"); },
-      [&f] { f.ui.Beep(); }};
-  OuvreDictionnaire(c, f.reglages.DossierDictio, d, nomfic, f.dico, f.selections, avis);
+  OuvreDictionnaire(f.catalogue, f.reglages.DossierDictio, f.fenetre.DictioCourant, nomfic, f.dico, f.selections,
+                    AvisDe(f));
   // The number files belong to a dictionary: their commands wait for the first one opened.
   ActiveMenu(f, MenuId::mnuImporterAjout, true);
   ActiveMenu(f, MenuId::mnuExporterAjout, true);
-  w.PileSuite.clear();
-  EntrerIndex(f, c[d].PositionDictio, Annonce::AvantLeTitre);
+  f.fenetre.PileSuite.clear();
+  EntrerIndex(f, entree, Annonce::AvantLeTitre);
 }
 
 }  // namespace lex

@@ -5,17 +5,11 @@
 #include "controller/line_helpers.h"
 #include "controller/message.h"
 #include "controller/modes.h"
+#include "controller/opening.h"
 #include "controller/paging.h"
 
 namespace lex {
 
-namespace {
-AvisOuverture AvisDe(Form& f) {
-  return {[&f](std::string t) { message(f, std::move(t)); },
-          [&f](std::string t) { f.dlg.MessageBox(t, Boutons::OK, Icone::Exclamation, "Dictionnaires"); },
-          [&f] { f.ui.Beep(); }};
-}
-}  // namespace
 
 void Form::RemontrePage(bool annonce) {
   if (!SurUneListe(fenetre.ModeCourant())) return;

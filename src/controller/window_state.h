@@ -32,10 +32,10 @@ class EtatFenetre {
   // Articles from which a word was followed (Enter in an article); Backspace goes back.
   std::vector<std::int32_t> PileSuite;
 
-  // Where the notepad was opened from, to go back there: the mode, and the dictionary's own
-  // entry the user was on.
-  Mode AvantBlocNote = Mode::ListeDictionnaires;
-  std::int32_t EntreeAvantBlocNote = 1;
+  // Where the notepad or a new dictionary was asked for, to go back there: the mode, and the
+  // dictionary's own entry the user was on.
+  Mode AvantSaisie = Mode::ListeDictionnaires;
+  std::int32_t EntreeAvantSaisie = 1;
   // How many of the notepad's lines the page in the field stands for.
   std::size_t LignesPageBlocNote = 0;
 

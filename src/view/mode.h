@@ -14,6 +14,7 @@ enum class Mode {
   Article,             // an article being read
   Aide,                // the guide or the about text, read line by line
   BlocNote,            // the notepad, edited page by page in the index field
+  CreationDictio,      // the first article of a new dictionary, typed in the index field
 };
 
 // A page of the index or of a result list is shown.

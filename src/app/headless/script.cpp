@@ -32,6 +32,7 @@ int NumeroMode(Mode m) {
     case Mode::ListeResultats: return 2;
     case Mode::Article: return 3;
     case Mode::BlocNote: return 2;
+    case Mode::CreationDictio: return 3;
   }
   return 1;
 }
