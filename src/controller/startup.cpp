@@ -10,6 +10,7 @@
 #include "controller/options.h"
 #include "data/files.h"
 #include "data/safe_write.h"
+#include "screen_reader/startup_scripts.h"
 #include "selection/number_files.h"
 
 namespace lex {
@@ -36,6 +37,7 @@ void Chargement(Form& f, const std::string& dossierProgramme) {
   }
   // What a cut left half written is thrown away before anything is written.
   SupprimerTemporaires(r.DossierProgramme);
+  ScriptsAuDemarrage(r.DossierProgramme, f.dlg, f);
   r.FichierBlocNote = r.DossierProgramme + "blocnote.txt";
   r.PoliceNom = "Courier";
   r.PoliceTaille = "10";
