@@ -230,12 +230,10 @@ void mnuEffaceDictio(PartiesGestion& p) {
 }
 
 void InscrireCommandesGestion(RegistreCommandes& registre, PartiesGestion p) {
-  const auto inscrire = [&registre, p](MenuId id, void (*executer)(PartiesGestion&)) {
-    registre.Inscrire(id, [p, executer]() mutable { executer(p); });
-  };
-  inscrire(MenuId::mnuCreationDictio, mnuCreationDictio);
-  inscrire(MenuId::mnuModifDictio, mnuModifDictio);
-  inscrire(MenuId::mnuEffaceDictio, mnuEffaceDictio);
+  InscrireCommandes<PartiesGestion>(registre, p,
+                                    {{MenuId::mnuCreationDictio, mnuCreationDictio},
+                                     {MenuId::mnuModifDictio, mnuModifDictio},
+                                     {MenuId::mnuEffaceDictio, mnuEffaceDictio}});
 }
 
 }  // namespace lex

@@ -7,17 +7,15 @@
 namespace lex {
 
 void InscrireCommandesRecherche(RegistreCommandes& registre, PartiesRecherche p) {
-  const auto inscrire = [&registre, p](MenuId id, void (*executer)(PartiesRecherche&)) {
-    registre.Inscrire(id, [p, executer]() mutable { executer(p); });
-  };
-  inscrire(MenuId::mnuRechercheindex, mnuRechercheindex);
-  inscrire(MenuId::mnuRechercheDansIndex, mnuRechercheDansIndex);
-  inscrire(MenuId::mnuRechercheAvant, mnuRechercheAvant);
-  inscrire(MenuId::mnuRechercheChaine, mnuRechercheChaine);
-  inscrire(MenuId::mnuRechercheBrute, mnuRechercheBrute);
-  inscrire(MenuId::mnuRecherchePrecedent, mnuRecherchePrecedent);
-  inscrire(MenuId::mnuRechercheSuivant, mnuRechercheSuivant);
-  inscrire(MenuId::mnuRechercheSuivantTout, mnuRechercheSuivantTout);
+  InscrireCommandes<PartiesRecherche>(registre, p,
+                                      {{MenuId::mnuRechercheindex, mnuRechercheindex},
+                                       {MenuId::mnuRechercheDansIndex, mnuRechercheDansIndex},
+                                       {MenuId::mnuRechercheAvant, mnuRechercheAvant},
+                                       {MenuId::mnuRechercheChaine, mnuRechercheChaine},
+                                       {MenuId::mnuRechercheBrute, mnuRechercheBrute},
+                                       {MenuId::mnuRecherchePrecedent, mnuRecherchePrecedent},
+                                       {MenuId::mnuRechercheSuivant, mnuRechercheSuivant},
+                                       {MenuId::mnuRechercheSuivantTout, mnuRechercheSuivantTout}});
 }
 
 }  // namespace lex

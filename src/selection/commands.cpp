@@ -77,16 +77,14 @@ void MnuDeSelectionTout(PartiesSelection& p) {
 }
 
 void InscrireCommandesSelection(RegistreCommandes& registre, PartiesSelection p) {
-  const auto inscrire = [&registre, p](MenuId id, void (*executer)(PartiesSelection&)) {
-    registre.Inscrire(id, [p, executer]() mutable { executer(p); });
-  };
-  inscrire(MenuId::MnuSelection, SelectionIndex);
-  inscrire(MenuId::MnuDeSelection, DeselectionIndex);
-  inscrire(MenuId::MnuSelectionTout, MnuSelectionTout);
-  inscrire(MenuId::MnuDeSelectionTout, MnuDeSelectionTout);
-  inscrire(MenuId::mnuExporterAjout, mnuExporterAjout);
-  inscrire(MenuId::mnuImporterAjout, mnuImporterAjout);
-  inscrire(MenuId::mnuImporterTxt, mnuImporterTxt);
+  InscrireCommandes<PartiesSelection>(registre, p,
+                                      {{MenuId::MnuSelection, SelectionIndex},
+                                       {MenuId::MnuDeSelection, DeselectionIndex},
+                                       {MenuId::MnuSelectionTout, MnuSelectionTout},
+                                       {MenuId::MnuDeSelectionTout, MnuDeSelectionTout},
+                                       {MenuId::mnuExporterAjout, mnuExporterAjout},
+                                       {MenuId::mnuImporterAjout, mnuImporterAjout},
+                                       {MenuId::mnuImporterTxt, mnuImporterTxt}});
 }
 
 }  // namespace lex

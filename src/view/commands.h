@@ -2,7 +2,9 @@
 // when the entry may be used; the controller runs them from the menus and accelerators.
 #pragma once
 #include <functional>
+#include <initializer_list>
 #include <map>
+#include <utility>
 
 #include "view/menu_id.h"
 
@@ -27,5 +29,13 @@ class RegistreCommandes {
  private:
   std::map<MenuId, Commande> commandes_;
 };
+
+// Registers the commands of a subsystem, each run on the parts it works on.
+template <class Parties>
+void InscrireCommandes(RegistreCommandes& registre, const Parties& parties,
+                       std::initializer_list<std::pair<MenuId, void (*)(Parties&)>> commandes) {
+  for (const auto& [id, executer] : commandes)
+    registre.Inscrire(id, [p = parties, f = executer]() mutable { f(p); });
+}
 
 }  // namespace lex
