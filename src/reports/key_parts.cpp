@@ -9,8 +9,9 @@
 namespace lex {
 namespace {
 
-// Each key in its part: its number, the low half of its hash, its length, then its bytes.
-constexpr std::size_t kTete = 9;
+// Each key in its part: its length, the low half of its hash, its number when kept, then its
+// bytes.
+constexpr std::size_t kTeteSansNumero = 5;
 constexpr std::size_t kCleMax = 255;
 // About this many keys to a part, which keeps a part's table and bytes in the cache; and no
 // more parts than the writes spread over them can follow without missing in the TLB.
@@ -18,6 +19,7 @@ constexpr unsigned kBitsParPartie = 12;
 constexpr unsigned kBitsParties = 8;
 // Pieces small enough that the parts' unfilled ends take little memory.
 constexpr std::size_t kMorceau = std::size_t{1} << 14;
+constexpr std::size_t kBlocMax = std::size_t{8} << 20;
 
 std::uint64_t Lit64(const char* p) {
   std::uint64_t v;
@@ -76,28 +78,31 @@ std::uint32_t Lit32(const char* p) {
   return v;
 }
 
-std::size_t Longueur(const char* entree) { return static_cast<unsigned char>(entree[8]); }
-std::string_view Cle(const char* entree) { return {entree + kTete, Longueur(entree)}; }
+std::size_t Longueur(const char* entree) { return static_cast<unsigned char>(entree[0]); }
+std::uint32_t Hachage(const char* entree) { return Lit32(entree + 1); }
 
 }  // namespace
 
-ClesReparties::ClesReparties(std::size_t nombre) {
+ClesReparties::ClesReparties(std::size_t nombre, bool numeros) {
   unsigned bits = 0;
   while (bits < kBitsParties && (nombre >> (kBitsParPartie + bits)) > 0) ++bits;
   decalage_ = 64 - bits;
-  Prepare(std::size_t{1} << bits, nombre);
+  Prepare(std::size_t{1} << bits, nombre, numeros);
 }
 
-ClesReparties::ClesReparties(std::size_t nombre, const ClesReparties& modele) : decalage_(modele.decalage_) {
-  Prepare(modele.parties_.size(), nombre);
+ClesReparties::ClesReparties(std::size_t nombre, const ClesReparties& modele, bool numeros)
+    : decalage_(modele.decalage_) {
+  Prepare(modele.parties_.size(), nombre, numeros);
 }
 
-void ClesReparties::Prepare(std::size_t parties, std::size_t nombre) {
+void ClesReparties::Prepare(std::size_t parties, std::size_t nombre, bool numeros) {
+  tete_ = kTeteSansNumero + (numeros ? 4 : 0);
   parties_.resize(parties);
   pleins_.resize(parties);
-  // Blocks big enough for the keys expected (a key takes some twenty bytes), a piece per
-  // part besides; memory not yet written is not taken.
-  tailleBloc_ = std::max(nombre * 32 + parties * kMorceau, std::size_t{4} * kMorceau);
+  // Blocks for the keys expected (a key takes some twenty bytes) and a piece per part, in
+  // blocks of a few megabytes, which the allocator keeps for the next comparison rather than
+  // giving them back to the system to be cleared again.
+  tailleBloc_ = std::clamp(nombre * 24 + parties * kMorceau, std::size_t{4} * kMorceau, kBlocMax);
 }
 
 void ClesReparties::NouveauMorceau(std::size_t n) {
@@ -115,10 +120,13 @@ void ClesReparties::NouveauMorceau(std::size_t n) {
   resteBloc_ -= kMorceau;
 }
 
-std::vector<ClesReparties::Morceau> ClesReparties::Morceaux(std::size_t n) const {
-  std::vector<Morceau> m = pleins_[n];
-  if (parties_[n].debut) m.push_back({parties_[n].debut, parties_[n].fin});
-  return m;
+template <class F>
+void ClesReparties::PourChaque(std::size_t n, F&& f) const {
+  const auto parcourt = [&](const char* e, const char* fin) {
+    for (; e < fin; e += tete_ + Longueur(e)) f(e);
+  };
+  for (const Morceau& m : pleins_[n]) parcourt(m.debut, m.fin);
+  parcourt(parties_[n].debut, parties_[n].fin);
 }
 
 void ClesReparties::Ajouter(std::string_view cle, std::int32_t numero) {
@@ -126,16 +134,16 @@ void ClesReparties::Ajouter(std::string_view cle, std::int32_t numero) {
   const std::uint64_t h = Hache(cle);
   const std::size_t n = decalage_ < 64 ? h >> decalage_ : 0;
   Partie& p = parties_[n];
-  const std::size_t taille = kTete + cle.size();
+  const std::size_t taille = tete_ + cle.size();
   if (static_cast<std::size_t>(p.limite - p.fin) < taille) NouveauMorceau(n);
   // Written through a copy of the pointer: a store through a char pointer may change anything,
   // the part's own pointer included, which would then be read again after every store.
   char* e = p.fin;
   const auto h32 = static_cast<std::uint32_t>(h);
-  std::memcpy(e, &numero, 4);
-  std::memcpy(e + 4, &h32, 4);
-  e[8] = static_cast<char>(cle.size());
-  Copie(e + kTete, cle.data(), cle.size());
+  e[0] = static_cast<char>(cle.size());
+  std::memcpy(e + 1, &h32, 4);
+  if (tete_ > kTeteSansNumero) std::memcpy(e + kTeteSansNumero, &numero, 4);
+  Copie(e + tete_, cle.data(), cle.size());
   p.fin = e + taille;
   ++p.nombre;
   ++nombre_;
@@ -145,11 +153,12 @@ void MarqueAbsents(const ClesReparties& ceux, const std::vector<const ClesRepart
                    std::size_t fin, std::vector<char>& absent) {
   for (const ClesReparties* a : autres)
     if (a->parties_.size() != ceux.parties_.size()) Erreur(5);
-  if (fin > ceux.parties_.size()) Erreur(9);
-  // A slot: the key's hash's low half, then its address; a null address is a free slot.
+  if (fin > ceux.parties_.size() || ceux.tete_ == kTeteSansNumero) Erreur(5);
+  // A slot: the key's hash's low half, its length and its bytes; a null address is a free slot.
   struct Case {
     std::uint32_t h;
-    const char* entree;
+    std::uint32_t longueur;
+    const char* cle;
   };
   std::vector<Case> cases;
   for (std::size_t n = debut; n < fin; ++n) {
@@ -159,28 +168,26 @@ void MarqueAbsents(const ClesReparties& ceux, const std::vector<const ClesRepart
     std::size_t taille = 16;
     while (taille < 2 * nombre) taille *= 2;
     const std::size_t masque = taille - 1;
-    cases.assign(taille, {0, nullptr});
+    cases.assign(taille, {0, 0, nullptr});
     for (const ClesReparties* a : autres)
-      for (const ClesReparties::Morceau& m : a->Morceaux(n))
-        for (const char* e = m.debut; e < m.fin; e += kTete + Longueur(e)) {
-          const std::uint32_t h = Lit32(e + 4);
-          std::size_t i = h & masque;
-          while (cases[i].entree) i = (i + 1) & masque;
-          cases[i] = {h, e};
-        }
-    for (const ClesReparties::Morceau& m : ceux.Morceaux(n))
-      for (const char* e = m.debut; e < m.fin; e += kTete + Longueur(e)) {
-        const std::uint32_t h = Lit32(e + 4);
-        const std::string_view cle = Cle(e);
-        bool trouve = false;
-        for (std::size_t i = h & masque; cases[i].entree && !trouve; i = (i + 1) & masque)
-          trouve = cases[i].h == h && Cle(cases[i].entree) == cle;
-        if (trouve) continue;
-        std::int32_t numero;
-        std::memcpy(&numero, e, 4);
-        if (numero < 0 || static_cast<std::size_t>(numero) >= absent.size()) Erreur(9);
-        absent[static_cast<std::size_t>(numero)] = 1;
-      }
+      a->PourChaque(n, [&, t = a->tete_](const char* e) {
+        const std::uint32_t h = Hachage(e);
+        std::size_t i = h & masque;
+        while (cases[i].cle) i = (i + 1) & masque;
+        cases[i] = {h, static_cast<std::uint32_t>(Longueur(e)), e + t};
+      });
+    ceux.PourChaque(n, [&](const char* e) {
+      const std::uint32_t h = Hachage(e);
+      const std::size_t longueur = Longueur(e);
+      const char* cle = e + ceux.tete_;
+      for (std::size_t i = h & masque; cases[i].cle; i = (i + 1) & masque)
+        if (cases[i].h == h && cases[i].longueur == longueur && std::memcmp(cases[i].cle, cle, longueur) == 0)
+          return;
+      std::int32_t numero;
+      std::memcpy(&numero, e + kTeteSansNumero, 4);
+      if (numero < 0 || static_cast<std::size_t>(numero) >= absent.size()) Erreur(9);
+      absent[static_cast<std::size_t>(numero)] = 1;
+    });
   }
 }
 

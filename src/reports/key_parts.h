@@ -13,10 +13,11 @@ namespace lex {
 
 class ClesReparties {
  public:
-  // Parts fit for about `nombre` keys; the two sets compared must be made with as many parts.
-  explicit ClesReparties(std::size_t nombre = 0);
+  // Parts fit for about `nombre` keys; the sets compared must be made with as many parts.
+  // `numeros`: the number each key is given is kept (the set whose absent keys are asked for).
+  explicit ClesReparties(std::size_t nombre = 0, bool numeros = false);
   // As many parts as `modele`, for about `nombre` keys.
-  ClesReparties(std::size_t nombre, const ClesReparties& modele);
+  ClesReparties(std::size_t nombre, const ClesReparties& modele, bool numeros);
   // A key of at most 255 bytes, with the number it is known by (its entry); the same key may
   // come twice.
   void Ajouter(std::string_view cle, std::int32_t numero);
@@ -24,8 +25,9 @@ class ClesReparties {
 
   std::size_t Parties() const { return parties_.size(); }
 
-  // Over parts [debut, fin): sets absent[n] for the number n of each key of `ceux` that none of
-  // `autres` holds. All must have as many parts, and `absent` room for every number of `ceux`.
+  // Over parts [debut, fin): sets absent[n] for the number n of each key of `ceux` (which keeps
+  // numbers) that none of `autres` holds. All must have as many parts, and `absent` room for
+  // every number of `ceux`.
   // Calls on other parts may run at the same time.
   friend void MarqueAbsents(const ClesReparties& ceux, const std::vector<const ClesReparties*>& autres,
                             std::size_t debut, std::size_t fin, std::vector<char>& absent);
@@ -44,15 +46,17 @@ class ClesReparties {
     char* limite = nullptr;
     std::size_t nombre = 0;
   };
-  void Prepare(std::size_t parties, std::size_t nombre);
+  void Prepare(std::size_t parties, std::size_t nombre, bool numeros);
   // A new piece for part n.
   void NouveauMorceau(std::size_t n);
-  // Every piece of part n, the one being filled last.
-  std::vector<Morceau> Morceaux(std::size_t n) const;
+  // Calls f(entry) for each key of part n.
+  template <class F>
+  void PourChaque(std::size_t n, F&& f) const;
 
   std::vector<Partie> parties_;
   std::vector<std::vector<Morceau>> pleins_;
   unsigned decalage_ = 64;  // the part is the hash shifted right by this much
+  std::size_t tete_ = 0;    // what comes before a key's bytes: its length, hash and number
   std::vector<std::unique_ptr<char[]>> blocs_;
   char* libre_ = nullptr;  // the unused rest of the last block
   std::size_t resteBloc_ = 0;
