@@ -6,14 +6,12 @@
 namespace lex {
 
 void InscrireCommandesRapports(RegistreCommandes& registre, PartiesRapports p) {
-  const auto inscrire = [&registre, &p](MenuId id, void (*executer)(PartiesRapports&)) {
-    registre.Inscrire(id, [p, executer]() mutable { executer(p); });
-  };
-  inscrire(MenuId::mnucomparaisonIndex, mnucomparaisonIndex);
-  inscrire(MenuId::mnuSansDefinition, mnuSansDefinition);
-  inscrire(MenuId::mnuXY, mnuXY);
-  inscrire(MenuId::mnuNombreIndex, mnuNombreIndex);
-  inscrire(MenuId::mnuCodeIso, mnuCodeIso);
+  InscrireCommandes<PartiesRapports>(registre, p,
+                                     {{MenuId::mnucomparaisonIndex, mnucomparaisonIndex},
+                                      {MenuId::mnuSansDefinition, mnuSansDefinition},
+                                      {MenuId::mnuXY, mnuXY},
+                                      {MenuId::mnuNombreIndex, mnuNombreIndex},
+                                      {MenuId::mnuCodeIso, mnuCodeIso}});
 }
 
 }  // namespace lex
