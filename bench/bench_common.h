@@ -86,14 +86,15 @@ inline double Mediane(const std::vector<double>& v) { return Resumer(v).mediane;
 // time, and the two sides of a ratio are not disturbed alike.
 inline double Minimum(const std::vector<double>& v) { return v.empty() ? 0 : *std::min_element(v.begin(), v.end()); }
 
-// Runs a command (no shell), its stdout sent to /dev/null, and returns its wall time.
-inline double TempsCommande(const std::vector<std::string>& args) {
+// Runs a command (no shell), its stdout sent to `sortie`, and returns its wall time. GNU grep
+// stops at the first match when its output is /dev/null: give it a file.
+inline double TempsCommande(const std::vector<std::string>& args, const std::string& sortie = "/dev/null") {
   std::vector<char*> argv;
   for (const std::string& a : args) argv.push_back(const_cast<char*>(a.c_str()));
   argv.push_back(nullptr);
   posix_spawn_file_actions_t actions;
   posix_spawn_file_actions_init(&actions);
-  posix_spawn_file_actions_addopen(&actions, STDOUT_FILENO, "/dev/null", O_WRONLY, 0);
+  posix_spawn_file_actions_addopen(&actions, STDOUT_FILENO, sortie.c_str(), O_WRONLY | O_CREAT | O_TRUNC, 0644);
   pid_t pid = 0;
   const auto t0 = Horloge::now();
   const int rc = posix_spawnp(&pid, argv[0], &actions, nullptr, argv.data(), environ);
@@ -104,6 +105,22 @@ inline double TempsCommande(const std::vector<std::string>& args) {
   const double t = Secondes(t0, Horloge::now());
   if (!WIFEXITED(statut) || WEXITSTATUS(statut) != 0) Echec(args[0] + " failed");
   return t;
+}
+
+// The start of a tool, timed on an input it does nothing with, to be taken off its times.
+inline double Demarrage(const std::vector<std::string>& commande, const std::string& sortie = "/dev/null") {
+  std::vector<double> t;
+  for (int i = 0; i < 5; ++i) t.push_back(TempsCommande(commande, sortie));
+  return *std::min_element(t.begin(), t.end());
+}
+
+// A value of the generator's DICT.info file, or "".
+inline std::string Info(const std::string& dict, const std::string& cle) {
+  std::ifstream in(dict + ".info");
+  std::string ligne;
+  while (std::getline(in, ligne))
+    if (ligne.rfind(cle + "=", 0) == 0) return ligne.substr(cle.size() + 1);
+  return {};
 }
 
 // Runs a command and returns what it wrote on stdout.

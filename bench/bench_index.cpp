@@ -104,11 +104,6 @@ std::string Passant(int passes) {
   return passes > 1 ? ", " + std::to_string(passes) + " passes per timing" : std::string();
 }
 
-double DemarrageOutil(const std::string& outil) {
-  std::vector<double> t;
-  for (int i = 0; i < 5; ++i) t.push_back(TempsCommande({outil, "/dev/null"}));
-  return Minimum(t);
-}
 
 // The 40 lines of a page joined, straight from the table: the least a page can cost.
 std::string PageBrute(const IndexTable& t, std::int32_t premier) {
@@ -187,7 +182,7 @@ int main(int argc, char** argv) {
   // swamp its reading.
   {
     const int passes = Passes(taille);
-    const double demarrage = DemarrageOutil("wc");
+    const double demarrage = Demarrage({"wc", "/dev/null"});
     const std::vector<std::string> wc = LanceCommande({"wc", "-l"}, o.dict, passes);
     TempsCommande(wc);
     ConstruireIndex(f.dico.fichiers, true, f.dico.TableIndex, f.dico.Lettres, bip);
@@ -232,7 +227,7 @@ int main(int argc, char** argv) {
       if (t.NombreArticle() != 1 || t.texte(1).size() != attendu << 20) Echec("long line: wrong table");
       return s;
     };
-    const double demarrage = DemarrageOutil("wc");
+    const double demarrage = Demarrage({"wc", "/dev/null"});
     std::vector<double> nous, quatre, wc;
     for (int r = 0; r < std::min(o.reps, 3); ++r) {
       wc.push_back(std::max(1e-7, TempsCommande({"wc", "-l", longue}) - demarrage));
@@ -251,7 +246,7 @@ int main(int argc, char** argv) {
   {
     const std::int64_t tailleIndex = LongueurFichier(f.dico.fichiers.index);
     const int passes = Passes(tailleIndex);
-    const double demarrage = DemarrageOutil("cat");
+    const double demarrage = Demarrage({"cat", "/dev/null"});
     const std::vector<std::string> cat = LanceCommande({"cat"}, f.dico.fichiers.index, passes);
     auto litIndex = [&] {
       // Each pass replaces the table of the one before, as opening another dictionary does.

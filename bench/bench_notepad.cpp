@@ -25,10 +25,7 @@ int main(int argc, char** argv) {
     for (int i = 1; i <= 100000; ++i) out << "note " << i << " : une ligne du bloc note, comme on en tape\r\n";
   }
   std::fprintf(stderr, "bench_notepad: %s, %d repetitions\n", fichier.c_str(), o.reps);
-  // The start of cp, timed on an empty file, is taken off its times.
-  std::vector<double> departs;
-  for (int i = 0; i < 5; ++i) departs.push_back(TempsCommande({"cp", "/dev/null", dossier + "vide"}));
-  const double demarrage = Minimum(departs);
+  const double demarrage = Demarrage({"cp", "/dev/null", dossier + "vide"});
   std::vector<double> ouvrir, page, sauver, cp;
   for (int r = 0; r < o.reps; ++r) {
     headless::HeadlessWindow ui;

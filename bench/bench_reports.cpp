@@ -109,40 +109,8 @@ std::int32_t Attendus(const IndexTable& ouvert, const IndexTable& copie) {
   return n;
 }
 
-double DemarrageOutil(const std::vector<std::string>& outil) {
-  std::vector<double> t;
-  for (int i = 0; i < 5; ++i) t.push_back(TempsCommande(outil));
-  return Minimum(t);
-}
 
-// Runs grep with its output to a file (GNU grep stops at the first match when it writes to
-// /dev/null) and returns its wall time.
-double TempsGrep(const std::vector<std::string>& args, const std::string& sortie) {
-  std::vector<char*> argv;
-  for (const std::string& a : args) argv.push_back(const_cast<char*>(a.c_str()));
-  argv.push_back(nullptr);
-  posix_spawn_file_actions_t actions;
-  posix_spawn_file_actions_init(&actions);
-  posix_spawn_file_actions_addopen(&actions, STDOUT_FILENO, sortie.c_str(), O_WRONLY | O_CREAT | O_TRUNC, 0644);
-  pid_t pid = 0;
-  const auto t0 = Horloge::now();
-  const int rc = posix_spawnp(&pid, argv[0], &actions, nullptr, argv.data(), environ);
-  posix_spawn_file_actions_destroy(&actions);
-  if (rc != 0) Echec("cannot start grep: " + std::string(std::strerror(rc)));
-  int statut = 0;
-  if (waitpid(pid, &statut, 0) < 0) Echec("waitpid failed");
-  const double t = Secondes(t0, Horloge::now());
-  if (!WIFEXITED(statut) || WEXITSTATUS(statut) != 0) Echec("grep failed");
-  return t;
-}
 
-std::string Info(const std::string& dict, const std::string& cle) {
-  std::ifstream in(dict + ".info");
-  std::string ligne;
-  while (std::getline(in, ligne))
-    if (ligne.rfind(cle + "=", 0) == 0) return ligne.substr(cle.size() + 1);
-  return {};
-}
 
 }  // namespace
 
@@ -176,7 +144,7 @@ int main(int argc, char** argv) {
 
   {
     const std::vector<std::string> cat = {"cat", f.dico.fichiers.index, copie.fichiers.index};
-    const double demarrage = DemarrageOutil({"cat", "/dev/null"});
+    const double demarrage = Demarrage({"cat", "/dev/null"});
     // One untimed round of each first, so that both find the files in the page cache; the
     // program's is timed apart, its memory being new to it.
     TempsCommande(cat);
@@ -213,10 +181,10 @@ int main(int argc, char** argv) {
     // The small file holds the word, so that grep exits with 0 whatever the dictionary holds.
     std::vector<std::string> grep = {"env", "LC_ALL=C", "grep", "-c", "-F", "--", mot, temoin};
     std::vector<double> t;
-    for (int i = 0; i < 5; ++i) t.push_back(TempsGrep(grep, sortie));
+    for (int i = 0; i < 5; ++i) t.push_back(TempsCommande(grep, sortie));
     const double demarrage = Minimum(t);
     grep.push_back(o.dict);
-    TempsGrep(grep, sortie);
+    TempsCommande(grep, sortie);
     const auto liste = [&] {
       EntrerIndex(f, 1, Annonce::Non);
       ExecuteMenu(f, MenuId::mnuSansDefinition);
@@ -225,7 +193,7 @@ int main(int argc, char** argv) {
     liste();
     std::vector<double> nous, ref;
     for (int r = 0; r < o.reps; ++r) {
-      ref.push_back(std::max(1e-7, TempsGrep(grep, sortie) - demarrage));
+      ref.push_back(std::max(1e-7, TempsCommande(grep, sortie) - demarrage));
       ui.beeps = 0;
       nous.push_back(Chrono(liste));
     }

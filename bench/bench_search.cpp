@@ -25,14 +25,6 @@ using namespace lex;
 using namespace lex::bench;
 
 
-// A value of the generator's DICT.info file, or "".
-std::string Info(const std::string& dict, const std::string& cle) {
-  std::ifstream in(dict + ".info");
-  std::string ligne;
-  while (std::getline(in, ligne))
-    if (ligne.rfind(cle + "=", 0) == 0) return ligne.substr(cle.size() + 1);
-  return {};
-}
 
 void Ouvre(Form& f, const Options& o) {
   std::filesystem::create_directories(o.work);
@@ -97,32 +89,7 @@ std::vector<std::string> Grep(const std::string& option, const std::string& chai
   return {"env", "LC_ALL=C", "grep", "-c", option, "--", chaine, temoin};
 }
 
-// Runs grep and returns its wall time. Its output goes to a file: GNU grep stops at the first
-// match when its output is /dev/null, as TempsCommande would make it.
-double TempsGrep(const std::vector<std::string>& args, const std::string& sortie) {
-  std::vector<char*> argv;
-  for (const std::string& a : args) argv.push_back(const_cast<char*>(a.c_str()));
-  argv.push_back(nullptr);
-  posix_spawn_file_actions_t actions;
-  posix_spawn_file_actions_init(&actions);
-  posix_spawn_file_actions_addopen(&actions, STDOUT_FILENO, sortie.c_str(), O_WRONLY | O_CREAT | O_TRUNC, 0644);
-  pid_t pid = 0;
-  const auto t0 = Horloge::now();
-  const int rc = posix_spawnp(&pid, argv[0], &actions, nullptr, argv.data(), environ);
-  posix_spawn_file_actions_destroy(&actions);
-  if (rc != 0) Echec("cannot start grep: " + std::string(std::strerror(rc)));
-  int statut = 0;
-  if (waitpid(pid, &statut, 0) < 0) Echec("waitpid failed");
-  const double t = Secondes(t0, Horloge::now());
-  if (!WIFEXITED(statut) || WEXITSTATUS(statut) != 0) Echec("grep failed");
-  return t;
-}
 
-double Demarrage(const std::vector<std::string>& grep, const std::string& sortie) {
-  std::vector<double> t;
-  for (int i = 0; i < 5; ++i) t.push_back(TempsGrep(grep, sortie));
-  return Mediane(t);
-}
 
 }  // namespace
 
@@ -159,11 +126,11 @@ int main(int argc, char** argv) {
     const double demarrage = Demarrage(grep, sortie);
     for (int p = 0; p < passes; ++p) grep.push_back(o.dict);
     // One untimed round of each first, so that both find the file in the page cache.
-    TempsGrep(grep, sortie);
+    TempsCommande(grep, sortie);
     std::size_t trouves = Cherche(f, ui, c.chaine, c.respectCasse);
     std::vector<double> nous, ref;
     for (int r = 0; r < o.reps; ++r) {
-      ref.push_back(std::max(1e-7, TempsGrep(grep, sortie) - demarrage) / passes);
+      ref.push_back(std::max(1e-7, TempsCommande(grep, sortie) - demarrage) / passes);
       ui.beeps = 0;
       nous.push_back(Chrono([&] {
                        for (int p = 0; p < passes; ++p) trouves = Cherche(f, ui, c.chaine, c.respectCasse);

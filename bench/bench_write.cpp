@@ -9,16 +9,6 @@
 #include "bench_common.h"
 #include "data/files.h"
 
-namespace {
-
-// The start of a tool, timed on an empty input, to be taken off its times.
-double Demarrage(const std::vector<std::string>& commande) {
-  std::vector<double> t;
-  for (int i = 0; i < 5; ++i) t.push_back(lex::bench::TempsCommande(commande));
-  return lex::bench::Minimum(t);
-}
-
-}  // namespace
 
 int main(int argc, char** argv) {
   using namespace lex;
@@ -31,7 +21,7 @@ int main(int argc, char** argv) {
                static_cast<long long>(taille), o.reps);
   const std::string nous = o.work + "/sauve.lex", eux = o.work + "/sauve-cp.lex";
   const std::string vide = o.work + "/vide";
-  const double demarrage = Demarrage({"cp", "/dev/null", vide}) + Demarrage({"sync", vide});
+  const double demarrage = lex::bench::Demarrage({"cp", "/dev/null", vide}) + lex::bench::Demarrage({"sync", vide});
   // The first round brings the source into the page cache for both sides.
   CopierFichier(o.dict, nous);
   TempsCommande({"cp", o.dict, eux});
