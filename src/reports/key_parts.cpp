@@ -5,6 +5,7 @@
 
 #include "base/error.h"
 #include "data/huge_pages.h"
+#include "data/short_copy.h"
 
 namespace lex {
 namespace {
@@ -48,28 +49,6 @@ std::uint64_t Hache(std::string_view cle) {
   h *= k1;
   h ^= h >> 29;
   return h;
-}
-
-// Copies n bytes (n at most 255) in fixed-size pieces: a call for a few bytes costs more than
-// the copy.
-void Copie(char* d, const char* s, std::size_t n) {
-  for (; n >= 16; n -= 16, d += 16, s += 16) std::memcpy(d, s, 16);
-  if (n & 8) {
-    std::memcpy(d, s, 8);
-    d += 8;
-    s += 8;
-  }
-  if (n & 4) {
-    std::memcpy(d, s, 4);
-    d += 4;
-    s += 4;
-  }
-  if (n & 2) {
-    std::memcpy(d, s, 2);
-    d += 2;
-    s += 2;
-  }
-  if (n & 1) *d = *s;
 }
 
 std::uint32_t Lit32(const char* p) {
@@ -143,7 +122,7 @@ void ClesReparties::Ajouter(std::string_view cle, std::int32_t numero) {
   e[0] = static_cast<char>(cle.size());
   std::memcpy(e + 1, &h32, 4);
   if (tete_ > kTeteSansNumero) std::memcpy(e + kTeteSansNumero, &numero, 4);
-  Copie(e + tete_, cle.data(), cle.size());
+  CopieCourte(e + tete_, cle.data(), cle.size());
   p.fin = e + taille;
   ++p.nombre;
   ++nombre_;
