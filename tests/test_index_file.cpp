@@ -68,6 +68,15 @@ TEST(IndexFile, ArticlesAndTheirOffsets) {
   }
 }
 
+// A record of blanks read first: an entry with neither text nor key still has its place.
+TEST(IndexFile, AnEmptyFirstEntry) {
+  IndexTable t;
+  t.Ajouter("", "", 0);
+  t.Terminer(0);
+  EXPECT_EQ(t.texte(1), "");
+  EXPECT_EQ(t.cle(1), "");
+}
+
 TEST(IndexFile, LetterTable) {
   Index x;
   x.Construit(

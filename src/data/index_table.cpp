@@ -18,7 +18,8 @@ void IndexTable::Reserver(std::size_t entrees) {
 }
 
 char* IndexTable::Place(std::size_t n) {
-  if (n > libre_) {
+  // An empty first entry still needs a block to point into.
+  if (n > libre_ || blocs_.empty()) {
     tailleBloc_ = std::max(kBloc, n);
     blocs_.emplace_back(new char[tailleBloc_]);
     ConseilleGrandesPages(blocs_.back().get(), tailleBloc_);
