@@ -1,4 +1,6 @@
 // The screen as the notepad sees it: its pages in the index field.
+#include "controller/notepad_screen.h"
+
 #include "controller/form.h"
 #include "controller/modes.h"
 #include "controller/buttons.h"
@@ -14,5 +16,11 @@ void Form::GardePage() {
 }
 
 void Form::QuitteBlocNote() { RetourIndex(*this); }
+
+bool LaisseBlocNote(Form& f) {
+  if (f.fenetre.ModeCourant() != Mode::BlocNote) return true;
+  PartiesBlocNote p = f.PartiesNote();
+  return QuitteAvecBlocNote(p);
+}
 
 }  // namespace lex

@@ -6,6 +6,7 @@
 #include "controller/form.h"
 #include "controller/message.h"
 #include "controller/modes.h"
+#include "controller/notepad_screen.h"
 #include "data/files.h"
 
 namespace lex {
@@ -35,6 +36,7 @@ void mnuPoliceEcran_Click(Form& f) {
 
 void mnuAideTxt_Click(Form& f) {
   ErrorTrap trap(" sur mnuAideTxt_Click");
+  if (!LaisseBlocNote(f)) return;
   f.ui.SetLineText("");
   std::string texte;
   for (const std::string& l : LireLignes(f.reglages.DossierProgramme + "aide.txt")) texte += l + "\r\n";
@@ -43,6 +45,7 @@ void mnuAideTxt_Click(Form& f) {
 }
 
 void mnuApropos_Click(Form& f) {
+  if (!LaisseBlocNote(f)) return;
   EntrerAide(f, "LEX Version 4.00\r\nJanvier 2008\r\nLes d\xE9veloppeurs de LEX\r\n"
                 "Contact : le d\xE9p\xF4t du projet LEX");
 }

@@ -7,6 +7,7 @@
 #include "controller/form.h"
 #include "controller/line_helpers.h"
 #include "controller/modes.h"
+#include "controller/notepad_screen.h"
 #include "controller/options.h"
 #include "data/files.h"
 #include "data/safe_write.h"
@@ -88,10 +89,7 @@ void Chargement(Form& f, const std::string& dossierProgramme) {
 }
 
 void quitter(Form& f) {
-  if (f.fenetre.ModeCourant() == Mode::BlocNote) {
-    PartiesBlocNote p = f.PartiesNote();
-    if (!QuitteAvecBlocNote(p)) return;
-  }
+  if (!LaisseBlocNote(f)) return;
   Catalogue& c = f.catalogue;
   const bool ouvert = DansUnDictionnaire(f.fenetre.ModeCourant());
   for (int i = 1; i <= c.NombreDictio() - 1; ++i) {
