@@ -12,12 +12,16 @@ std::string FichierALire(const Catalogue& c, const std::string& dossierDictio, i
   return nomfic;
 }
 
+void AlerteIndexEnMemoire(const std::string& raison, const AvisOuverture& avis) {
+  OublieRapport();
+  avis.alerte(raison + " ; l'index est gard\xE9 en m\xE9moire.");
+}
+
 void InitIndex(DictionnaireOuvert& dico, const Selections& s, int d, const AvisOuverture& avis) {
   try {
     ConstruireIndex(dico.fichiers, dico.OrdreAlpha, dico.TableIndex, dico.Lettres, avis.bip);
   } catch (const ErreurEcriture& e) {
-    OublieRapport();
-    avis.alerte(MessageErreurEcriture(e) + " ; l'index est gard\xE9 en m\xE9moire.");
+    AlerteIndexEnMemoire(MessageErreurEcriture(e), avis);
     ConstruireTables(dico.fichiers.dictio, dico.TableIndex, dico.Lettres, avis.bip);
   }
   TestAjout(dico.TableIndex, s, d);

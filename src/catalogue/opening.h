@@ -19,6 +19,9 @@ struct AvisOuverture {
   std::function<void()> bip;                 // the progress signal of a long build
 };
 
+// Tells the user that the index could not be written and is kept in memory.
+void AlerteIndexEnMemoire(const std::string& raison, const AvisOuverture& avis);
+
 // Rebuilds the index and letter files of `dico` and its tables, then the marks of entry d.
 // When the files cannot be written, the user is told and the tables are built in memory
 // alone: the dictionary opens all the same.

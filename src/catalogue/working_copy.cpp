@@ -1,5 +1,8 @@
 #include "catalogue/working_copy.h"
 
+#include "data/index_update.h"
+#include "data/write_error.h"
+#include "selection/marks.h"
 #include "selection/selecting.h"
 
 namespace lex {
@@ -21,6 +24,32 @@ Changement ChangeCopieTravail(Catalogue& c, const std::string& dossierDictio, in
   SuitChangement(s, d, ch);
   InitIndex(dico, s, d, avis);
   return ch;
+}
+
+Changement RetoucheCopieTravail(Catalogue& c, const std::string& dossierDictio, int d, DictionnaireOuvert& dico,
+                                Selections& s, const Retouche& r, const AvisOuverture& avis) {
+  const std::string copie = NomDictionnaire(c, dossierDictio, d) + ".bak";
+  const EtatDictio ancien = LireEtatDictio(dico.fichiers.dictio);
+  Recomposition rc;
+  {
+    EcritureSure cible(copie, Donnees::Utilisateur);
+    rc = EcritRetouche(dico.fichiers.dictio, cible, dico.TableIndex, r);
+    cible.Valider();
+  }
+  c[d].DicModifie = true;
+  dico.fichiers.dictio = copie;
+  SuitChangement(s, d, rc.changement);
+  bool suivi = false;
+  try {
+    suivi = SuitRetouche(dico.fichiers, ancien, dico.OrdreAlpha, rc, dico.TableIndex, dico.Lettres, avis.bip);
+  } catch (const ErreurEcriture& e) {
+    // The tables follow the change already; the files are rebuilt at the next opening.
+    AlerteIndexEnMemoire(MessageErreurEcriture(e), avis);
+    suivi = true;
+  }
+  if (suivi) MarqueEntrees(dico.TableIndex, s, d, rc.changement.NumerosInseres());
+  else InitIndex(dico, s, d, avis);
+  return rc.changement;
 }
 
 }  // namespace lex

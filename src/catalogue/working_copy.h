@@ -6,6 +6,7 @@
 
 #include "catalogue/catalogue.h"
 #include "catalogue/opening.h"
+#include "data/article_edit.h"
 #include "data/article_merge.h"
 #include "data/open_dictionary.h"
 #include "data/safe_write.h"
@@ -22,5 +23,11 @@ Changement ChangeCopieTravail(Catalogue& c, const std::string& dossierDictio, in
                               Selections& s,
                               const std::function<Changement(const std::string& source, EcritureSure& cible)>& ecrire,
                               const AvisOuverture& avis);
+
+// The same for a change of a few articles (data/article_edit.h): the file is copied by the
+// index's offsets, and the index follows without reading the dictionary again when its
+// file was current.
+Changement RetoucheCopieTravail(Catalogue& c, const std::string& dossierDictio, int d, DictionnaireOuvert& dico,
+                                Selections& s, const Retouche& r, const AvisOuverture& avis);
 
 }  // namespace lex

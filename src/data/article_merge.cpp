@@ -8,15 +8,38 @@
 
 namespace lex {
 
+namespace {
+
+// How many of the removed entries stand before entry n.
+std::int32_t RetiresAvant(const std::vector<std::int32_t>& retires, std::int32_t n) {
+  return static_cast<std::int32_t>(std::lower_bound(retires.begin(), retires.end(), n) - retires.begin());
+}
+
+}  // namespace
+
 std::int32_t Changement::Nouveau(std::int32_t n) const {
+  if (std::binary_search(retires.begin(), retires.end(), n)) {
+    for (std::size_t j = 0; j < remplaces.size(); ++j)
+      if (remplaces[j] == n) return NumerosInseres()[j];
+    return 0;
+  }
   const auto avant = std::upper_bound(inseresAvant.begin(), inseresAvant.end(), n) - inseresAvant.begin();
-  return n + static_cast<std::int32_t>(avant);
+  return n + static_cast<std::int32_t>(avant) - RetiresAvant(retires, n);
 }
 
 std::vector<std::int32_t> Changement::NumerosInseres() const {
   std::vector<std::int32_t> v;
   v.reserve(inseresAvant.size());
-  for (std::size_t j = 0; j < inseresAvant.size(); ++j) v.push_back(inseresAvant[j] + static_cast<std::int32_t>(j));
+  for (std::size_t j = 0; j < inseresAvant.size(); ++j)
+    v.push_back(inseresAvant[j] + static_cast<std::int32_t>(j) - RetiresAvant(retires, inseresAvant[j]));
+  return v;
+}
+
+std::vector<std::int32_t> Changement::NumerosNouveaux() const {
+  std::vector<std::int32_t> v = NumerosInseres();
+  if (!remplaces.empty())
+    for (std::size_t j = v.size(); j-- > 0;)
+      if (remplaces[j] != 0) v.erase(v.begin() + static_cast<std::ptrdiff_t>(j));
   return v;
 }
 

@@ -17,11 +17,19 @@ struct Changement {
   // For each entry inserted, in file order, the number before the change of the entry it
   // went before (the old count + 1 at the end).
   std::vector<std::int32_t> inseresAvant;
+  // For each entry inserted, the removed entry whose article it is, changed (0 for a new
+  // article); empty when all are new.
+  std::vector<std::int32_t> remplaces;
+  // The entries removed, by their numbers before the change, ascending.
+  std::vector<std::int32_t> retires;
 
-  // The number after the change of the entry numbered n before it.
+  // The number after the change of the entry numbered n before it: a changed article's new
+  // one; 0 when it was removed.
   std::int32_t Nouveau(std::int32_t n) const;
   // The numbers after the change of the entries inserted.
   std::vector<std::int32_t> NumerosInseres() const;
+  // The same of the new articles alone: the additions.
+  std::vector<std::int32_t> NumerosNouveaux() const;
 };
 
 // Copies the dictionary `source` into `cible`, each new article going before the first

@@ -12,31 +12,13 @@
 #include "base/error.h"
 #include "data/files.h"
 #include "data/folding.h"
+#include "data/index_record.h"
 #include "data/index_scanner.h"
 #include "data/safe_write.h"
 #include "data/short_copy.h"
 
 namespace lex {
 namespace {
-
-void PoseChamp(char* dest, std::string_view s) {
-  // A copy of a fixed size is a few vector stores; a memset of a varying size is a call.
-  static constexpr char kBlancs[kTailleChamp + 1] =
-      "                                                                      ";
-  std::memcpy(dest, kBlancs, kTailleChamp);
-  CopieCourte(dest, s.data(), std::min(s.size(), kTailleChamp));
-}
-
-void PoseValeur(char* dest, std::int32_t v) {
-  auto u = static_cast<std::uint32_t>(v);
-  for (int i = 0; i < 4; ++i) dest[i] = static_cast<char>((u >> (8 * i)) & 0xFF);
-}
-
-std::int32_t LitValeur(const char* p) {
-  std::uint32_t u = 0;
-  for (int i = 0; i < 4; ++i) u |= static_cast<std::uint32_t>(static_cast<unsigned char>(p[i])) << (8 * i);
-  return static_cast<std::int32_t>(u);
-}
 
 std::string_view SansBlancsFinaux(const char* p, std::size_t n) {
   // Fields are mostly padding: look at it eight bytes at a time, from the end.
@@ -53,23 +35,10 @@ std::string_view SansBlancsFinaux(const char* p, std::size_t n) {
   return {p, n};
 }
 
-// The record through which every index-file write goes; its key field keeps what it last
-// held, which is what the two header records carry.
-struct Enreg {
-  char octets[kTailleEnreg];
-  Enreg() { std::memset(octets, ' ', kTailleEnreg); }
-  void Index(std::string_view s) { PoseChamp(octets, s); }
-  void Cle(std::string_view s) { PoseChamp(octets + kTailleChamp, s); }
-  void Valeur(std::int32_t v) { PoseValeur(octets + 2 * kTailleChamp, v); }
-};
-
 std::int32_t Offset32(std::int64_t v) {
   if (v > std::numeric_limits<std::int32_t>::max()) Erreur(6);
   return static_cast<std::int32_t>(v);
 }
-
-// The dictionary's date as record 2's key field holds it.
-std::string TexteDate(std::int64_t date) { return "T" + std::to_string(date); }
 
 bool EstLettre(char c) { return c >= 'A' && c <= 'Z'; }
 bool EstLettreOuAro(char c) { return c >= '@' && c <= 'Z'; }
@@ -141,7 +110,6 @@ void ConstruireIndex(const FichiersIndex& f, bool ordreAlpha, IndexTable& table,
   const EtatDictio avant = LireEtatDictio(f.dictio);
   EcritureSure idx(f.index, Donnees::Reconstructible);
   // The two header records are written at the end, when the count is known.
-  Enreg enreg;
   {
     char place[2 * kTailleEnreg];
     std::memset(place, ' ', sizeof place);
@@ -194,15 +162,7 @@ void ConstruireIndex(const FichiersIndex& f, bool ordreAlpha, IndexTable& table,
 
   taille = LongueurFichier(f.dictio);
   char tete[2 * kTailleEnreg];
-  // Record 1 carries the key the record buffer last held; record 2 the date.
-  enreg.Cle(cle);
-  enreg.Index(kVersionIndex);
-  enreg.Valeur(nombre);
-  std::memcpy(tete, enreg.octets, kTailleEnreg);
-  enreg.Index("");
-  enreg.Cle(TexteDate(avant.date));
-  enreg.Valeur(Offset32(taille));
-  std::memcpy(tete + kTailleEnreg, enreg.octets, kTailleEnreg);
+  PoseEnTete(tete, nombre, cle, avant.date, Offset32(taille));
   idx.EcrireA(0, tete, sizeof tete);
 
   table.Terminer(Offset32(taille));
@@ -312,6 +272,16 @@ EtatIndex LitIndex(const FichiersIndex& f, const EtatDictio& dictio, IndexTable&
 }
 
 }  // namespace
+
+bool IndexCourant(const FichiersIndex& f, const EtatDictio& dictio, std::int32_t nombre) {
+  if (VersionIndex(f.index) != kVersionIndex) return false;
+  Fichier idx = OuvrirSiPossible(f.index);
+  char tete[2 * kTailleEnreg];
+  if (!idx || std::fread(tete, 1, sizeof tete, idx.get()) != sizeof tete) return false;
+  return EnTeteDuProgramme(tete, LongueurFichier(f.index)) && LitValeur(tete + 2 * kTailleChamp) == nombre &&
+         LitValeur(tete + kTailleEnreg + 2 * kTailleChamp) == dictio.taille &&
+         SansBlancsFinaux(tete + kTailleEnreg + kTailleChamp, kTailleChamp) == TexteDate(dictio.date);
+}
 
 EtatIndex LireIndex(const FichiersIndex& f, IndexTable& table, TableLettre& lettres) {
   return LitIndex(f, LireEtatDictio(f.dictio), table, lettres);

@@ -70,6 +70,10 @@ EtatIndex LireIndex(const FichiersIndex& f, IndexTable& table, TableLettre& lett
 // checked as well.
 EtatIndex LireIndex(const FichiersIndex& f, std::int64_t tailleDictio, IndexTable& table, TableLettre& lettres);
 
+// Whether the index file of `f` is of this version, holds `nombre` articles, and was made
+// for the dictionary in the state `dictio`: what updating it in place of a rebuild needs.
+bool IndexCourant(const FichiersIndex& f, const EtatDictio& dictio, std::int32_t nombre);
+
 // The version field of record 1, blanks trimmed ("" when the file cannot be read).
 std::string VersionIndex(std::string_view fichierIndex);
 

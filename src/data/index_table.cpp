@@ -49,6 +49,36 @@ void IndexTable::Terminer(std::int32_t tailleDictio) {
   positions_.push_back(tailleDictio);
 }
 
+void IndexTable::Recomposer(const std::vector<Morceau>& morceaux, std::int32_t tailleDictio,
+                            std::size_t (*plier)(std::string_view texte, char* destination)) {
+  std::size_t nombre = 0;
+  for (const Morceau& m : morceaux) nombre += m.dernier >= m.premier ? static_cast<std::size_t>(m.dernier - m.premier + 1) : 1;
+  std::vector<Ref> refs;
+  std::vector<std::int32_t> positions;
+  refs.reserve(nombre);
+  positions.reserve(nombre + 1);
+  for (const Morceau& m : morceaux) {
+    if (m.dernier >= m.premier) {
+      Verifier(m.premier, false);
+      Verifier(m.dernier, false);
+      refs.insert(refs.end(), refs_.begin() + (m.premier - 1), refs_.begin() + m.dernier);
+      for (std::int32_t i = m.premier; i <= m.dernier; ++i)
+        positions.push_back(static_cast<std::int32_t>(positions_[static_cast<std::size_t>(i - 1)] + m.decalage));
+      continue;
+    }
+    char* p = Place(3 * m.texte.size());
+    if (!m.texte.empty()) std::memcpy(p, m.texte.data(), m.texte.size());
+    const std::size_t longCle = plier(m.texte, p + m.texte.size());
+    refs.push_back({static_cast<std::uint32_t>(blocs_.size() - 1), static_cast<std::uint32_t>(tailleBloc_ - libre_),
+                    static_cast<std::uint32_t>(m.texte.size()), static_cast<std::uint32_t>(longCle)});
+    libre_ -= m.texte.size() + longCle;
+    positions.push_back(m.position);
+  }
+  refs_ = std::move(refs);
+  positions_ = std::move(positions);
+  Terminer(tailleDictio);
+}
+
 void IndexTable::Verifier(std::int32_t i, bool sentinelle) const {
   if (i < 1 || i > NombreArticle() + (sentinelle ? 1 : 0)) Erreur(9);
 }

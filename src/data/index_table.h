@@ -46,6 +46,17 @@ class IndexTable {
   // followed by `suite`. The new text goes into the blocks like the others, so that marking
   // a million entries costs no allocation per entry and reading them back no look-up.
   void ChangerTexte(std::int32_t i, std::string_view debut, std::string_view suite = {});
+  // The table after a change of its dictionary, given in the new order: runs of old entries
+  // whose offsets all moved by one amount, and new entries. The old entries keep their texts
+  // (and so their marks) without a copy; a million of them cost a pass over their references.
+  struct Morceau {
+    std::int32_t premier = 0, dernier = -1;  // old entries premier..dernier; empty for a new one
+    std::int64_t decalage = 0;
+    std::string_view texte;  // a new entry's, its key folded by `plier` as AjouterPlie does
+    std::int32_t position = 0;
+  };
+  void Recomposer(const std::vector<Morceau>& morceaux, std::int32_t tailleDictio,
+                  std::size_t (*plier)(std::string_view texte, char* destination));
   // Room for `octets` bytes of changed texts and their keys in one block: marking every entry
   // then asks the system for memory once.
   void ReserverChangements(std::size_t octets) { Place(octets); }

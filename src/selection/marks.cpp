@@ -60,4 +60,17 @@ void TestSelection(IndexTable& t, const Selections& s, int dictio) {
     if (n >= 1 && n <= t.NombreArticle()) Applique(t, n, MarqueSelection(t.texte(n)));
 }
 
+void MarqueEntrees(IndexTable& t, const Selections& s, int dictio, const std::vector<std::int32_t>& numeros) {
+  const auto marque = [&](const std::vector<std::int32_t>& liste, std::int32_t n) {
+    return std::find(liste.begin(), liste.end(), n) != liste.end();
+  };
+  const std::vector<std::int32_t>& ajouts = Numeros(s.TableAjout, dictio);
+  const std::vector<std::int32_t>& selection = Numeros(s.TableSelection, dictio);
+  for (std::int32_t n : numeros) {
+    if (n < 1 || n > t.NombreArticle()) continue;
+    if (marque(ajouts, n)) Applique(t, n, MarqueAjout(t.texte(n)));
+    if (marque(selection, n)) Applique(t, n, MarqueSelection(t.texte(n)));
+  }
+}
+
 }  // namespace lex

@@ -3,6 +3,7 @@
 #pragma once
 #include <cstdint>
 #include <string_view>
+#include <vector>
 
 #include "data/index_table.h"
 #include "selection/selections.h"
@@ -27,5 +28,7 @@ void Applique(IndexTable& t, std::int32_t n, Marque m);
 // Put the marks of catalogue entry `dictio` back on its index table after it was (re)loaded.
 void TestAjout(IndexTable& t, const Selections& s, int dictio);
 void TestSelection(IndexTable& t, const Selections& s, int dictio);
+// The same for the entries `numeros` alone, whose texts were just read afresh.
+void MarqueEntrees(IndexTable& t, const Selections& s, int dictio, const std::vector<std::int32_t>& numeros);
 
 }  // namespace lex

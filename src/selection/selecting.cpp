@@ -64,10 +64,13 @@ void SuitChangement(Selections& s, int dictio, const Changement& ch) {
   for (auto* table : {&s.TableSelection, &s.TableAjout}) {
     auto it = table->find(dictio);
     if (it == table->end()) continue;
-    for (std::int32_t& n : it->second) n = ch.Nouveau(n);
+    std::vector<std::int32_t>& numeros = it->second;
+    for (std::int32_t& n : numeros) n = ch.Nouveau(n);
+    // A removed entry leaves the lists.
+    std::erase(numeros, 0);
   }
   std::vector<std::int32_t>& ajouts = s.TableAjout[dictio];
-  for (std::int32_t n : ch.NumerosInseres()) ajouts.push_back(n);
+  for (std::int32_t n : ch.NumerosNouveaux()) ajouts.push_back(n);
 }
 
 }  // namespace lex
