@@ -7,6 +7,7 @@
 #include "controller/form.h"
 #include "controller/navigation.h"
 #include "controller/opening.h"
+#include "controller/paragraphs.h"
 #include "view/keys.h"
 
 namespace lex {
@@ -26,11 +27,13 @@ bool txt_KeyDown(Form& f, int code, int shift) {
     case Touche::Suppr: return m != Mode::BlocNote && m != Mode::CreationDictio;
     case Touche::Haut:
       if (!ctrl) return FlecheHaut(f);
-      return false;  // paragraph reading is left to the field
+      if (!LectureParParagraphes(m)) return false;
+      ParagraphePrecedent(f);
+      return true;
     case Touche::Bas:
       if (!ctrl) return FlecheBas(f);
-      if (m == Mode::Article) return false;
-      ExecuteMenu(f, MenuId::MnuSelection);
+      if (LectureParParagraphes(m)) ParagrapheSuivant(f);
+      else ExecuteMenu(f, MenuId::MnuSelection);
       return true;
     case Touche::PagePrec: return Indexprecedent(f);
     case Touche::PageSuiv: return Indexsuivant(f);
@@ -78,9 +81,12 @@ bool txt_KeyPress(Form& f, char c) {
   return true;
 }
 
-bool Rtb_KeyDown(Form&, int, int) {
-  // Paragraph reading with Ctrl+Up and Ctrl+Down is left to the pane itself.
-  return false;
+bool Rtb_KeyDown(Form& f, int code, int shift) {
+  if ((shift & kCtrl) == 0 || !LectureParParagraphes(f.fenetre.ModeCourant())) return false;
+  if (code == Touche::Haut) ParagraphePrecedent(f);
+  else if (code == Touche::Bas) ParagrapheSuivant(f);
+  else return false;
+  return true;
 }
 
 bool Rtb_KeyPress(Form& f, char c) {
