@@ -11,6 +11,7 @@
 #include "controller/opening.h"
 #include "controller/paging.h"
 #include "controller/startup.h"
+#include "editing/commands.h"
 
 namespace lex {
 namespace {
@@ -53,7 +54,9 @@ void RetourIndex(Form& f) {
       if (f.liste.Nombre() > 0) f.catalogue[w.DictioCourant].PositionDictio = IndexAbsolu(f);
       EntrerListeDictio(f);
       break;
-    case Mode::Article: RetourDeLArticle(f); break;
+    case Mode::Article:
+    case Mode::CreationIndex:
+    case Mode::ModificationIndex: RetourDeLArticle(f); break;
     case Mode::CreationDictio:
       if (w.AvantSaisie == Mode::ListeHistoire) EntrerListeHistoire(f);
       else EntrerListeDictio(f);
@@ -70,6 +73,10 @@ void CmdDic_Click(Form& f) {
   const Mode m = f.fenetre.ModeCourant();
   if (m == Mode::ChoixComparaison) ValideChoixComparaison(f);
   else if (m == Mode::CreationDictio) SauveCreationDictio(f);
+  else if (SaisieArticle(m)) {
+    PartiesEdition p = f.PartiesEdition();
+    SauveCreationIndex(p);
+  }
   else if (m == Mode::BlocNote) {
     PartiesBlocNote p = f.PartiesNote();
     SauveBlocNote(p);
@@ -83,7 +90,7 @@ void CmdDic_Click(Form& f) {
 void CmdDivers_Click(Form& f) {
   // "Liste": back from the page to the list; "Annuler": no comparison after all.
   const Mode m = f.fenetre.ModeCourant();
-  if (SurUneListe(m) || m == Mode::ChoixComparaison || m == Mode::CreationDictio) RetourIndex(f);
+  if (SurUneListe(m) || m == Mode::ChoixComparaison || m == Mode::CreationDictio || SaisieArticle(m)) RetourIndex(f);
   FocusChamp(f);
 }
 

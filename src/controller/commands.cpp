@@ -10,6 +10,7 @@
 #include "controller/new_dictionary.h"
 #include "controller/options.h"
 #include "controller/startup.h"
+#include "editing/commands.h"
 #include "notepad/notepad.h"
 #include "reports/commands.h"
 #include "search/commands.h"
@@ -38,11 +39,16 @@ void InscrireCommandes(Form& f) {
   InscrireCommandesSelection(r, {f, f.dlg, f.selections, f.dico, f.fenetre.DictioCourant, f.reglages.DossierDictio});
   InscrireCommandesRecherche(r, {f, f.dlg, f.recherche});
   InscrireCommandesBlocNote(r, f.PartiesNote());
-  // On a list, Ctrl+N types the first article of a dictionary not made yet; the entry of new
-  // articles in a dictionary comes with the editing commands.
+  InscrireCommandesEdition(r, f.PartiesEdition());
+  // On a list, Ctrl+N types the first article of a dictionary not made yet; in a dictionary,
+  // a new article of it.
   r.Inscrire(MenuId::mnuCreationIndex, [&f] {
-    if (SurLeCatalogue(f.fenetre.ModeCourant())) CreationDictio(f);
-    else message(f, "commande non disponible dans cette version");
+    if (SurLeCatalogue(f.fenetre.ModeCourant())) {
+      CreationDictio(f);
+    } else {
+      PartiesEdition p = f.PartiesEdition();
+      mnuCreationIndex(p);
+    }
   });
   InscrireCommandesRapports(r, PartiesRapportsDe(f));
 }

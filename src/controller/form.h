@@ -8,6 +8,7 @@
 #include "catalogue/settings.h"
 #include "data/folder_lock.h"
 #include "data/open_dictionary.h"
+#include "editing/edit_screen.h"
 #include "notepad/notepad.h"
 #include "reports/report_screen.h"
 #include "search/search_state.h"
@@ -21,7 +22,7 @@
 
 namespace lex {
 
-struct Form final : EcranRapports, EcranSelection, EcranCatalogue, EcranBlocNote {
+struct Form final : EcranRapports, EcranSelection, EcranCatalogue, EcranBlocNote, EcranEdition {
   Form(Fenetre& fenetreUi, Dialogues& dialogues);
   Form(const Form&) = delete;
   Form& operator=(const Form&) = delete;
@@ -69,7 +70,15 @@ struct Form final : EcranRapports, EcranSelection, EcranCatalogue, EcranBlocNote
   void MontreBlocNote() override;
   void GardePage() override;
   void QuitteBlocNote() override;
+  void EntrerSaisie(Mode m, std::int32_t entree, const std::string& texte) override;
+  std::int32_t EntreeSaisie() const override { return fenetre.EntreeAvantSaisie; }
+  std::string TexteSaisi() const override { return ui.GetLineText(); }
+  bool SaisieRemplacee() const override;
+  Changement Retouche(const lex::Retouche& r) override;
+  void PlaceSurEntree(std::int32_t numero) override;
+  void PressePapier(const std::string& texte) override { ui.ClipboardSetText(texte); }
   PartiesBlocNote PartiesNote() { return {*this, dlg, blocnote, reglages.FichierBlocNote}; }
+  lex::PartiesEdition PartiesEdition() { return {*this, dlg, selections, dico, fenetre.DictioCourant}; }
 };
 
 }  // namespace lex

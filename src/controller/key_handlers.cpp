@@ -24,7 +24,7 @@ bool txt_KeyDown(Form& f, int code, int shift) {
         return true;
       }
       return false;
-    case Touche::Suppr: return m != Mode::BlocNote && m != Mode::CreationDictio;
+    case Touche::Suppr: return m != Mode::BlocNote && m != Mode::CreationDictio && !SaisieArticle(m);
     case Touche::Haut:
       if (!ctrl) return FlecheHaut(f);
       if (!LectureParParagraphes(m)) return false;
@@ -63,7 +63,7 @@ bool txt_KeyPress(Form& f, char c) {
   }
   if (m == Mode::Aide) return true;
   // In the notepad and a new article every other character is typed.
-  if (m == Mode::BlocNote || m == Mode::CreationDictio) return false;
+  if (m == Mode::BlocNote || m == Mode::CreationDictio || SaisieArticle(m)) return false;
   if (c == 8) {
     if (SurUneListe(m)) BakSpaceIndex(f);
     else if (m == Mode::Article) RetourSuiteIndex(f);

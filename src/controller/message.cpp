@@ -30,7 +30,9 @@ void AfficheStatus(Form& f) {
         f.ui.SetTitle(f.catalogue[w.DictioCourant].NomDictio);
       break;
     case Mode::BlocNote: f.ui.SetTitle(NomFichSeul(f.blocnote.fichier)); break;
-    case Mode::CreationDictio: f.ui.SetTitle("Cr\xE9" "ation d'un index"); break;
+    case Mode::CreationDictio:
+    case Mode::CreationIndex: f.ui.SetTitle("Cr\xE9" "ation d'un index"); break;
+    case Mode::ModificationIndex: f.ui.SetTitle("Modification d'un index"); break;
     case Mode::Aide: break;  // the guide keeps the title of where it was asked from
   }
 }

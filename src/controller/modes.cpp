@@ -151,6 +151,22 @@ void EntrerCreationDictio(Form& f, int d) {
   message(f, "tapez l'index puis la d\xE9" "finition");
 }
 
+void EntrerSaisieArticle(Form& f, Mode m, std::int32_t entree, const std::string& texte) {
+  EtatFenetre& w = f.fenetre;
+  w.AvantSaisie = w.ModeCourant();
+  w.EntreeAvantSaisie = entree;
+  // Going back (Annuler, Escape) is going back from an article: to the list's entry.
+  if (w.ModeCourant() != Mode::Article) w.IndexCourant = f.liste.Nombre() > 0 ? f.EntreeCourante() : 1;
+  PoseMode(w, m);
+  OublieDebutTape(f);
+  MontreDansTxt(f, texte);
+  PoseBoutons(f, "OK", "Annuler");
+  f.ui.SetButtonVisible(Bouton::CmdQuitter, false);
+  f.ui.SetLineEditable(true);
+  f.ui.FocusLine();
+  AfficheStatus(f);
+}
+
 void EntrerAide(Form& f, const std::string& texte) {
   PoseMode(f.fenetre, Mode::Aide);
   OublieDebutTape(f);

@@ -6,6 +6,8 @@
 #include <cstdint>
 #include <string>
 
+#include "view/mode.h"
+
 namespace lex {
 
 struct Form;
@@ -36,6 +38,10 @@ void EntrerArticle(Form& f, std::int32_t numero, const std::string& article,
 void EntrerBlocNote(Form& f);
 // An empty field to type the first article of catalogue entry `d`, a new dictionary.
 void EntrerCreationDictio(Form& f, int d);
+// The field made editable for an article of the open dictionary: a new one (CreationIndex),
+// or the article of its entry `entree` changed (ModificationIndex), `texte` in the field. The
+// entry of the list the user was on is kept to go back to.
+void EntrerSaisieArticle(Form& f, Mode m, std::int32_t entree, const std::string& texte);
 // The guide or the about text in place of the field's text, read line by line.
 void EntrerAide(Form& f, const std::string& texte);
 

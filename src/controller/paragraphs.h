@@ -8,7 +8,7 @@ namespace lex {
 struct Form;
 
 // The modes whose text is read line by line with Ctrl+Up and Ctrl+Down.
-inline bool LectureParParagraphes(Mode m) { return m == Mode::Article; }
+inline bool LectureParParagraphes(Mode m) { return m == Mode::Article || SaisieArticle(m); }
 
 // Caret to the start of the next line of the shown field, that line announced whole; on the
 // last line a beep and "fin de l'article", the caret left where it is.

@@ -15,6 +15,8 @@ enum class Mode {
   Aide,                // the guide or the about text, read line by line
   BlocNote,            // the notepad, edited page by page in the index field
   CreationDictio,      // the first article of a new dictionary, typed in the index field
+  CreationIndex,       // a new article of the open dictionary, typed in the index field
+  ModificationIndex,   // an article of the open dictionary, changed in the index field
 };
 
 // A page of the index or of a result list is shown.
@@ -24,6 +26,8 @@ inline bool SurUneListe(Mode m) { return m == Mode::Index || m == Mode::ListeRes
 inline bool SurLeCatalogue(Mode m) {
   return m == Mode::ListeDictionnaires || m == Mode::ListeHistoire || m == Mode::ChoixComparaison;
 }
+// An article of the open dictionary is being typed.
+inline bool SaisieArticle(Mode m) { return m == Mode::CreationIndex || m == Mode::ModificationIndex; }
 // A dictionary is open: a page of it, or one of its articles.
 inline bool DansUnDictionnaire(Mode m) { return SurUneListe(m) || m == Mode::Article; }
 

@@ -38,6 +38,9 @@ class Fenetre {
   virtual Selection GetLineSelection() const = 0;
   // Typing changes the field only while something is being edited.
   virtual void SetLineEditable(bool editable) = 0;
+  // Whether the text typed holds characters that Windows-1252 cannot: GetLineText gives them
+  // as "?". False again once the program sets the text.
+  virtual bool LineTextReplaced() const = 0;
 
   // Rtb, the rich text pane shown in place of txt for very long articles.
   virtual void SetPaneText(const std::string& texte) = 0;

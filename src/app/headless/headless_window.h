@@ -46,6 +46,7 @@ class HeadlessWindow final : public Fenetre, public Dialogues {
 
   void SetLineText(const std::string& t) override { txt.SetText(t); }
   std::string GetLineText() const override { return txt.Text(); }
+  bool LineTextReplaced() const override { return txt.remplace; }
   void SetLineSelection(std::size_t d, std::size_t l) override;
   Selection GetLineSelection() const override { return {txt.Caret(), txt.Length()}; }
   void SetLineEditable(bool e) override { txt.editable = e; }

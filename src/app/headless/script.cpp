@@ -32,7 +32,9 @@ int NumeroMode(Mode m) {
     case Mode::ListeResultats: return 2;
     case Mode::Article: return 3;
     case Mode::BlocNote: return 2;
-    case Mode::CreationDictio: return 3;
+    case Mode::CreationDictio:
+    case Mode::CreationIndex:
+    case Mode::ModificationIndex: return 3;
   }
   return 1;
 }
@@ -158,7 +160,11 @@ class Runner {
     if (!ParseKey(name, k)) return false;
     const Champ champ = win_.PaneFocused() ? Champ::Rtb : Champ::Txt;
     const SuiteTouche suite = RouteTouche(form_, champ, k.code, k.shift, k.ch ? UnicodeDeAnsi(k.ch) : 0);
-    if (suite.auChamp) win_.Shown().Key(k.code, k.shift, suite.caractere ? AnsiDeUnicode(suite.caractere) : 0);
+    if (suite.auChamp) {
+      const char ansi = suite.caractere ? AnsiDeUnicode(suite.caractere) : 0;
+      if (ansi == '?' && suite.caractere != U'?' && win_.Shown().editable) win_.Shown().remplace = true;
+      win_.Shown().Key(k.code, k.shift, ansi);
+    }
     return true;
   }
 

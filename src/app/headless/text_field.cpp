@@ -8,6 +8,7 @@ namespace lex::headless {
 
 void TextField::SetText(std::string t) {
   text_ = std::move(t);
+  remplace = false;
   caret_ = 0;
   length_ = 0;
 }

@@ -18,6 +18,8 @@ class TextField {
   std::size_t Length() const { return length_; }
   void SetSelectionLength(std::size_t n) { length_ = n; }
   bool editable = true;
+  // A character typed that Windows-1252 cannot hold was stored as "?".
+  bool remplace = false;
   // Lines that Page Up and Page Down move by: the lines the field shows.
   long lignesPage = kLignesVisibles;
 

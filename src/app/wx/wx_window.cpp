@@ -42,12 +42,15 @@ AtkObject* Accessible(wxWindow* w) { return gtk_widget_get_accessible(GTK_WIDGET
 void ChampTexte::SetTexte(const std::string& ansi) {
   texte_ = ansi;
   connu_ = true;
+  remplace_ = false;
   ctrl_->ChangeValue(wxString::FromUTF8(VersControle(ansi)));
 }
 
 const std::string& ChampTexte::Texte() const {
   if (!connu_) {
-    texte_ = DepuisControle(std::string(ctrl_->GetValue().utf8_str()));
+    const std::string utf8(ctrl_->GetValue().utf8_str());
+    texte_ = DepuisControle(utf8);
+    remplace_ = AnsiVersUtf8(Utf8VersAnsi(utf8)) != utf8;
     connu_ = true;
   }
   return texte_;

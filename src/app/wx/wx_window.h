@@ -30,6 +30,11 @@ class ChampTexte {
   void Modifie() { connu_ = false; }
   void SetTexte(const std::string& ansi);
   const std::string& Texte() const;
+  // The user typed characters that the program's text cannot hold.
+  bool Remplace() const {
+    Texte();
+    return remplace_;
+  }
   void SetSelection(std::size_t debut, std::size_t longueur);
   Selection GetSelection() const;
   void SetPolice(const wxFont& police);
@@ -38,6 +43,7 @@ class ChampTexte {
   wxTextCtrl* ctrl_;
   mutable std::string texte_;
   mutable bool connu_ = true;
+  mutable bool remplace_ = false;
 };
 
 struct Controles {
@@ -59,6 +65,7 @@ class WxWindow final : public Fenetre, public Dialogues {
 
   void SetLineText(const std::string& t) override { txt_.SetTexte(t); }
   std::string GetLineText() const override { return txt_.Texte(); }
+  bool LineTextReplaced() const override { return txt_.Remplace(); }
   void SetLineSelection(std::size_t d, std::size_t l) override { txt_.SetSelection(d, l); }
   Selection GetLineSelection() const override { return txt_.GetSelection(); }
   void SetLineEditable(bool e) override { c_.txt->SetEditable(e); }
