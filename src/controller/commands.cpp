@@ -53,9 +53,30 @@ void InscrireCommandes(Form& f) {
   InscrireCommandesRapports(r, PartiesRapportsDe(f));
 }
 
+namespace {
+
+// While an article is typed, a command that would take the field away would lose it: only
+// those that leave the text where it is run, and "OK" or "Annuler" end the typing.
+bool PermiseEnSaisie(MenuId id) {
+  switch (id) {
+    case MenuId::mnuQuitter:
+    case MenuId::mnuRetourIndexItem:
+    case MenuId::mnuPoliceEcran:
+    case MenuId::mnuXY:
+    case MenuId::mnuCodeIso: return true;
+    default: return false;
+  }
+}
+
+}  // namespace
+
 void ExecuteMenu(Form& f, MenuId id) {
+  const Mode m = f.fenetre.ModeCourant();
   const Commande* c = f.commandes.Trouve(id);
-  if (!c) message(f, "commande non disponible dans cette version");
+  if ((SaisieArticle(m) || m == Mode::CreationDictio) && !PermiseEnSaisie(id)) {
+    f.ui.Beep();
+    message(f, "terminez d'abord la saisie : OK ou Annuler");
+  } else if (!c) message(f, "commande non disponible dans cette version");
   else if (!c->actif || c->actif()) c->executer();
 }
 

@@ -11,16 +11,10 @@ namespace lex {
 namespace {
 
 // The commands read and change the dictionary the user is in, from its index, a result list
-// or an article; while an article is typed, "OK" or "Annuler" comes first.
+// or an article.
 bool DansLeDictionnaire(PartiesEdition& p) {
-  const Mode m = p.ecran.mode();
-  if (DansUnDictionnaire(m)) return true;
-  if (SaisieArticle(m)) {
-    p.ecran.Beep();
-    p.ecran.message("terminez d'abord la saisie : OK ou Annuler");
-  } else {
-    p.ecran.message("choisissez d'abord le dictionnaire");
-  }
+  if (DansUnDictionnaire(p.ecran.mode())) return true;
+  p.ecran.message("choisissez d'abord le dictionnaire");
   return false;
 }
 
