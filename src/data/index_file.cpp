@@ -122,7 +122,10 @@ void ConstruireIndex(const FichiersIndex& f, bool ordreAlpha, IndexTable& table,
 
   // Records are made in place in a block; a full block is written while the next one fills.
   constexpr std::size_t kParBloc = 8192;
-  std::vector<char> blocs[2] = {std::vector<char>(kTailleEnreg * kParBloc), std::vector<char>(kTailleEnreg * kParBloc)};
+  // Left unset: a small dictionary touches a page of them, not megabytes.
+  constexpr std::size_t kOctetsBloc = kTailleEnreg * kParBloc;
+  std::unique_ptr<char[]> blocs[2] = {std::make_unique_for_overwrite<char[]>(kOctetsBloc),
+                                      std::make_unique_for_overwrite<char[]>(kOctetsBloc)};
   int courant = 0;
   // Declared after `idx`: if the build fails, the write under way ends before the temporary
   // file is discarded.
@@ -140,14 +143,14 @@ void ConstruireIndex(const FichiersIndex& f, bool ordreAlpha, IndexTable& table,
   while (lecteur.Suivante(ligne, offset)) {
     ++nombre;
     cle = table.AjouterPlie(ligne, Offset32(offset), SansaccentEpureVers);
-    char* r = blocs[courant].data() + enBloc * kTailleEnreg;
+    char* r = blocs[courant].get() + enBloc * kTailleEnreg;
     PoseChamp(r, ligne);
     PoseChamp(r + kTailleChamp, cle);
     PoseValeur(r + 2 * kTailleChamp, Offset32(offset));
     if (++enBloc == kParBloc) {
       attendEcriture();
       ecriture = std::async(std::launch::async,
-                            [&idx, d = blocs[courant].data(), n = blocs[courant].size()] { idx.Ecrire(d, n); });
+                            [&idx, d = blocs[courant].get()] { idx.Ecrire(d, kOctetsBloc); });
       courant ^= 1;
       enBloc = 0;
     }
@@ -157,7 +160,7 @@ void ConstruireIndex(const FichiersIndex& f, bool ordreAlpha, IndexTable& table,
     }
   }
   attendEcriture();
-  if (enBloc) idx.Ecrire(blocs[courant].data(), enBloc * kTailleEnreg);
+  if (enBloc) idx.Ecrire(blocs[courant].get(), enBloc * kTailleEnreg);
   dic.reset();
 
   taille = LongueurFichier(f.dictio);
@@ -241,16 +244,16 @@ EtatIndex LitIndex(const FichiersIndex& f, const EtatDictio& dictio, IndexTable&
 
   table.Reserver(static_cast<std::size_t>(nombre));
   constexpr std::size_t kParLecture = 8192;
-  std::vector<char> tampon(kParLecture * kTailleEnreg);
+  const auto tampon = std::make_unique_for_overwrite<char[]>(kParLecture * kTailleEnreg);
   std::int64_t precedente = -1;
   for (std::int32_t lus = 0; lus < nombre;) {
     std::size_t voulus = std::min<std::size_t>(kParLecture, static_cast<std::size_t>(nombre - lus));
-    if (std::fread(tampon.data(), kTailleEnreg, voulus, idx.get()) != voulus) {
+    if (std::fread(tampon.get(), kTailleEnreg, voulus, idx.get()) != voulus) {
       table.Vider();
       return EtatIndex::Perime;
     }
     for (std::size_t r = 0; r < voulus; ++r) {
-      const char* e = tampon.data() + r * kTailleEnreg;
+      const char* e = tampon.get() + r * kTailleEnreg;
       std::int32_t pos = LitValeur(e + 2 * kTailleChamp);
       // Offsets must rise strictly inside the file, or the articles would be read wrongly.
       if (pos <= precedente || pos >= taille) {

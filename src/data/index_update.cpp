@@ -1,7 +1,7 @@
 #include "data/index_update.h"
 
 #include <cstdio>
-#include <vector>
+#include <memory>
 
 #include "base/error.h"
 #include "data/files.h"
@@ -27,7 +27,7 @@ bool SuitRetouche(const FichiersIndex& f, const EtatDictio& ancien, bool ordreAl
     idx.Ecrire(place, sizeof place);
   }
   constexpr std::size_t kParBloc = 8192;
-  std::vector<char> bloc(kParBloc * kTailleEnreg);
+  const auto bloc = std::make_unique_for_overwrite<char[]>(kParBloc * kTailleEnreg);
   // Record 1 carries the key field of the last record, as a build leaves it.
   char derniereCle[kTailleChamp];
   std::memset(derniereCle, ' ', sizeof derniereCle);
@@ -50,13 +50,13 @@ bool SuitRetouche(const FichiersIndex& f, const EtatDictio& ancien, bool ordreAl
       Erreur(62);
     for (std::int32_t k = m.premier; k <= m.dernier;) {
       const auto n = std::min<std::size_t>(kParBloc, static_cast<std::size_t>(m.dernier - k + 1));
-      if (std::fread(bloc.data(), kTailleEnreg, n, vieux.get()) != n) Erreur(62);
+      if (std::fread(bloc.get(), kTailleEnreg, n, vieux.get()) != n) Erreur(62);
       for (std::size_t r = 0; r < n; ++r) {
-        char* v = bloc.data() + r * kTailleEnreg + 2 * kTailleChamp;
+        char* v = bloc.get() + r * kTailleEnreg + 2 * kTailleChamp;
         PoseValeur(v, static_cast<std::int32_t>(LitValeur(v) + m.decalage));
       }
-      idx.Ecrire(bloc.data(), n * kTailleEnreg);
-      std::memcpy(derniereCle, bloc.data() + (n - 1) * kTailleEnreg + kTailleChamp, kTailleChamp);
+      idx.Ecrire(bloc.get(), n * kTailleEnreg);
+      std::memcpy(derniereCle, bloc.get() + (n - 1) * kTailleEnreg + kTailleChamp, kTailleChamp);
       k += static_cast<std::int32_t>(n);
       nombre += static_cast<std::int32_t>(n);
     }
