@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <random>
+
 #include "base/encoding.h"
 #include "base/error.h"
 #include "data/folding.h"
@@ -36,4 +38,23 @@ TEST(Folding, WordExtraction) {
     EXPECT_EQ(EXTRAITMOT("le petit chat", position), mot) << position;
   EXPECT_EQ(EXTRAITMOT_separateur("a-b,c", 3, "-,"), "b");
   EXPECT_THROW(EXTRAITMOT("abc", 0), LexError);
+}
+
+// The comparison that stops early must give the sign a whole folding gives, whatever the
+// bytes: accents that fold to two letters, punctuation that folds to nothing, keys that are
+// prefixes of each other.
+TEST(Folding, TheEarlyComparisonAgreesWithTheWholeFolding) {
+  std::mt19937 g(7);
+  const std::string_view alphabet("aAbB\xE9\xC9\xE6\x9C ,(-.zZ\xFF\x80");
+  const auto mot = [&] {
+    std::string m(g() % 6, ' ');
+    for (char& c : m) c = alphabet[g() % alphabet.size()];
+    return m;
+  };
+  const auto signe = [](int v) { return (v > 0) - (v < 0); };
+  for (int i = 0; i < 50000; ++i) {
+    const std::string texte = mot(), autre = mot();
+    const std::string cle = g() % 2 ? Sansaccent(autre) : Sansaccent(texte) + Sansaccent(autre).substr(0, g() % 2);
+    EXPECT_EQ(signe(CompareSansaccent(texte, cle)), signe(Sansaccent(texte).compare(cle))) << texte << " / " << cle;
+  }
 }

@@ -117,20 +117,19 @@ Changement FusionneArticles(std::string_view source, EcritureSure& cible, const 
   const auto taille = static_cast<std::size_t>(std::max<std::int64_t>(LongueurFichier(source), 0));
   const std::size_t bloc = std::clamp<std::size_t>(taille + 16, 4096, std::size_t{1} << 19);
   LecteurIndex lecteur(f.get(), bloc, std::min<std::size_t>(bloc, 1 << 16));
-  Rangeur range;
   std::string_view ligne;
   std::int64_t offset = 0;
   std::int32_t k = 0;
   std::size_t j = 0;
   while (j < cles.size() && lecteur.Suivante(ligne, offset)) {
     ++k;
-    if (!range(ligne, cles[j])) continue;
+    if (!RangeArticle(ligne, cles[j])) continue;
     copie.Jusqua(offset);
     do {
       copie.Ecrire(texte(j));
       copie.Ecrire("\r\n\r\n");
       ch.inseresAvant.push_back(k);
-    } while (++j < cles.size() && range(ligne, cles[j]));
+    } while (++j < cles.size() && RangeArticle(ligne, cles[j]));
   }
   copie.Tout();
   if (j < cles.size()) {

@@ -15,20 +15,16 @@ ClesArticle ClesDe(std::string_view ligne) {
   return {Sansaccent(ligne), p == std::string_view::npos ? std::string() : Sansaccent(ligne.substr(0, p))};
 }
 
-bool Rangeur::operator()(std::string_view texte, const ClesArticle& nouveau) {
+bool RangeArticle(std::string_view texte, const ClesArticle& nouveau) {
   const std::size_t p = Coupe(texte);
-  SansaccentDans(texte, entiere_);
-  if (p == std::string_view::npos) {
-    if (nouveau.tete.empty()) return entiere_ > nouveau.entiere;
-    return entiere_ > nouveau.tete;
-  }
-  SansaccentDans(texte.substr(0, p), tete_);
+  if (p == std::string_view::npos)
+    return CompareSansaccent(texte, nouveau.tete.empty() ? nouveau.entiere : nouveau.tete) > 0;
+  const int tete = CompareSansaccent(texte.substr(0, p), nouveau.tete.empty() ? nouveau.entiere : nouveau.tete);
   // A new line without head against an existing head: equal places the new one first.
-  if (nouveau.tete.empty()) return tete_ >= nouveau.entiere;
-  return tete_ > nouveau.tete || (tete_ == nouveau.tete && entiere_ > nouveau.entiere);
+  if (nouveau.tete.empty()) return tete >= 0;
+  return tete > 0 || (tete == 0 && CompareSansaccent(texte, nouveau.entiere) > 0);
 }
 
-bool RangeArticle(std::string_view texte, const ClesArticle& nouveau) { return Rangeur()(texte, nouveau); }
 
 bool AvantDans(const ClesArticle& a, const ClesArticle& b) {
   const std::string& pa = a.tete.empty() ? a.entiere : a.tete;

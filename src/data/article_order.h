@@ -20,17 +20,9 @@ std::size_t Coupe(std::string_view ligneIndex);
 
 // Whether the new article of keys `nouveau` goes before the existing index line `texte`.
 // Articles sharing a head are ordered by their whole keys, heads order the rest; a new line
-// without head goes before an existing one whose head equals it.
+// without head goes before an existing one whose head equals it. The line is folded only as
+// far as the comparison needs.
 bool RangeArticle(std::string_view texte, const ClesArticle& nouveau);
-
-// The same, folding into buffers that the caller keeps from one line to the next.
-class Rangeur {
- public:
-  bool operator()(std::string_view texte, const ClesArticle& nouveau);
-
- private:
-  std::string entiere_, tete_;
-};
 
 // An order of new articles among themselves that agrees with RangeArticle, so that a batch
 // sorted by it can be merged into a sorted dictionary in one pass.

@@ -68,6 +68,20 @@ std::string Plie(std::string_view texte, const Table& t) {
 }  // namespace
 
 std::string Sansaccent(std::string_view texte) { return Plie(texte, TableComplete()); }
+
+int CompareSansaccent(std::string_view texte, std::string_view cle) {
+  const Table& t = TableComplete();
+  std::size_t k = 0;
+  for (char c : texte) {
+    const Sortie& x = t.sortie[static_cast<unsigned char>(c)];
+    for (unsigned char j = 0; j < x.n; ++j, ++k) {
+      if (k == cle.size()) return 1;
+      const auto a = static_cast<unsigned char>(x.c[j]), b = static_cast<unsigned char>(cle[k]);
+      if (a != b) return a < b ? -1 : 1;
+    }
+  }
+  return k == cle.size() ? 0 : -1;
+}
 std::string SansAccentSeul(std::string_view texte) { return Plie(texte, TableSeule()); }
 
 void SansaccentDans(std::string_view texte, std::string& dest) {

@@ -10,6 +10,10 @@ namespace lex {
 std::string Sansaccent(std::string_view texte);
 // The same into `dest`, whose memory is reused: folding a million lines allocates nothing.
 void SansaccentDans(std::string_view texte, std::string& dest);
+// Compares Sansaccent(texte) with `cle` as strings compare (negative, zero, positive),
+// folding only as far as the first difference: placing an article compares it with a million
+// lines, which mostly differ from its key in their first letters.
+int CompareSansaccent(std::string_view texte, std::string_view cle);
 // Accents folded and upper-cased; blanks and punctuation kept.
 std::string SansAccentSeul(std::string_view texte);
 // Accents folded, the reduced set removed (comma, plus, brackets kept so that notes can be

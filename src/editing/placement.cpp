@@ -39,7 +39,6 @@ std::int32_t PlaceAlphabetique(const DictionnaireOuvert& dico, const Selections&
   const std::int32_t nombre = t.NombreArticle();
   const std::vector<bool> marquees = Marquees(s, dictio, nombre);
   Fichier f;
-  Rangeur range;
   for (std::int32_t i = 1; i <= nombre; ++i) {
     if (i == sauf) continue;
     std::string_view texte = t.texte(i);
@@ -49,7 +48,7 @@ std::int32_t PlaceAlphabetique(const DictionnaireOuvert& dico, const Selections&
       ligne = LigneDuFichier(f.get(), t.position(i));
       texte = ligne;
     }
-    if (range(texte, cles)) return i;
+    if (RangeArticle(texte, cles)) return i;
   }
   return nombre + 1;
 }
