@@ -165,3 +165,29 @@ TEST(SafeWrite, UncommittedWritesLeaveTheOldFileAndNoTemporary) {
 #endif
   EXPECT_EQ(SupprimerTemporaires(d.Chemin("absent")), 0);
 }
+
+// Ranges of another file copied by the system between bytes written by the program: the
+// result is those bytes in that order, and a source shorter than the range is a failure
+// that leaves the target as it was.
+TEST(SafeWrite, RangesOfAnotherFileAreCopiedInPlace) {
+  test::DossierTemp d;
+  std::string source(3 << 20, '\0');
+  for (std::size_t i = 0; i < source.size(); ++i) source[i] = static_cast<char>('a' + i % 26);
+  d.Ecrire("source", source);
+  d.Ecrire("cible", "ancien");
+  {
+    EcritureSure e(d.Chemin("cible"), Donnees::Utilisateur);
+    e.Copier(d.Chemin("source"), 5, 3);
+    e.Ecrire("|");
+    e.Copier(d.Chemin("source"), 1000, (2 << 20) + 7);
+    e.Copier(d.Chemin("source"), 0, 0);
+    e.Valider();
+  }
+  EXPECT_EQ(d.Lire("cible"), source.substr(5, 3) + "|" + source.substr(1000, (2 << 20) + 7));
+  {
+    EcritureSure e(d.Chemin("cible"), Donnees::Utilisateur);
+    EXPECT_ANY_THROW(e.Copier(d.Chemin("source"), static_cast<std::int64_t>(source.size()) - 2, 10));
+  }
+  EXPECT_EQ(d.Lire("cible"), source.substr(5, 3) + "|" + source.substr(1000, (2 << 20) + 7));
+  EXPECT_EQ(Noms(d), (std::set<std::string>{"cible", "source"}));
+}

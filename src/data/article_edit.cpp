@@ -25,27 +25,21 @@ struct Piece {
 
 class Ecrivain {
  public:
-  Ecrivain(std::string_view source, EcritureSure& cible) : f_(OuvrirFichier(source)), cible_(cible) {}
+  Ecrivain(std::string_view source, EcritureSure& cible) : source_(source), f_(OuvrirFichier(source)), cible_(cible) {}
 
-  // Copies the bytes [debut, fin) of the source.
+  // Copies the bytes [debut, fin) of the source; the system copies them, only their last
+  // bytes are read, for what follows them.
   void Copie(std::int64_t debut, std::int64_t fin) {
     if (fin <= debut) return;
-    Place(debut);
-    while (debut < fin) {
-      const auto n = static_cast<std::size_t>(std::min<std::int64_t>(kBloc, fin - debut));
-      tampon_.resize(n);
-      if (std::fread(tampon_.data(), 1, n, f_.get()) != n) Erreur(62);  // shorter than its index
-      Ecrit(tampon_);
-      debut += static_cast<std::int64_t>(n);
-    }
-    pos_ = fin;
+    // Read first: a source shorter than its index is refused before anything is copied.
+    const std::string queue = Lit(std::max(debut, fin - 3), fin);
+    cible_.Copier(source_, debut, fin - debut);
+    Note(queue, fin - debut);
   }
   void Ecrit(std::string_view s) {
     if (s.empty()) return;
     cible_.Ecrire(s);
-    fin_ += s.substr(s.size() - std::min<std::size_t>(s.size(), 3));
-    if (fin_.size() > 3) fin_.erase(0, fin_.size() - 3);
-    ecrits_ += static_cast<std::int64_t>(s.size());
+    Note(s.substr(s.size() - std::min<std::size_t>(s.size(), 3)), static_cast<std::int64_t>(s.size()));
   }
   // The bytes [debut, fin) of the source.
   std::string Lit(std::int64_t debut, std::int64_t fin) {
@@ -63,14 +57,18 @@ class Ecrivain {
   }
 
  private:
+  void Note(std::string_view queue, std::int64_t longueur) {
+    fin_ += queue;
+    if (fin_.size() > 3) fin_.erase(0, fin_.size() - 3);
+    ecrits_ += longueur;
+  }
   void Place(std::int64_t debut) {
     if (debut != pos_ && std::fseek(f_.get(), static_cast<long>(debut), SEEK_SET) != 0) Erreur(62);
     pos_ = debut;
   }
-  static constexpr std::int64_t kBloc = std::int64_t{1} << 20;
+  std::string source_;
   Fichier f_;
   EcritureSure& cible_;
-  std::string tampon_;
   std::int64_t pos_ = 0, ecrits_ = 0;
   std::string fin_;  // the last three bytes written, fewer at the start
 };

@@ -92,6 +92,26 @@ void EcritureSure::Ecrire(const char* p, std::size_t n) {
   Verifie(systeme::EcrireTout(h_, p, n));
 }
 
+void EcritureSure::Copier(std::string_view source, std::int64_t debut, std::int64_t longueur) {
+  Verifie(echec_ ? echec_ : ouvert_ ? 0 : 5);
+  Verifie(PanneAEtape());
+  if (longueur <= 0) return;
+  const int r = systeme::CopierPlage(h_, CheminNatif(source), debut, longueur);
+  if (r != systeme::kCopieImpossible) {
+    Verifie(r);
+    return;
+  }
+  Fichier f = OuvrirFichier(source);
+  if (std::fseek(f.get(), static_cast<long>(debut), SEEK_SET) != 0) Erreur(62);
+  std::vector<char> tampon(static_cast<std::size_t>(std::min<std::int64_t>(longueur, std::int64_t{1} << 20)));
+  while (longueur > 0) {
+    const auto n = static_cast<std::size_t>(std::min<std::int64_t>(longueur, static_cast<std::int64_t>(tampon.size())));
+    if (std::fread(tampon.data(), 1, n, f.get()) != n) Erreur(62);
+    Verifie(systeme::EcrireTout(h_, tampon.data(), n));
+    longueur -= static_cast<std::int64_t>(n);
+  }
+}
+
 void EcritureSure::EcrireA(std::int64_t position, const char* p, std::size_t n) {
   Verifie(echec_ ? echec_ : ouvert_ ? 0 : 5);
   Verifie(PanneAEtape());

@@ -36,6 +36,9 @@ class EcritureSure {
 
   void Ecrire(const char* p, std::size_t n);
   void Ecrire(std::string_view s) { Ecrire(s.data(), s.size()); }
+  // Appends `longueur` bytes of the file `source` from `debut`, copied by the system where it
+  // can: a dictionary's unchanged hundreds of megabytes need not pass through the program.
+  void Copier(std::string_view source, std::int64_t debut, std::int64_t longueur);
   // Rewrites bytes already written (a header known only at the end); the next Ecrire still
   // goes on at the end.
   void EcrireA(std::int64_t position, const char* p, std::size_t n);

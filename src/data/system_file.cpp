@@ -70,6 +70,8 @@ int EcrireA(Poignee h, std::int64_t position, const char* d, std::size_t n) {
   return r;
 }
 
+int CopierPlage(Poignee, const std::filesystem::path&, std::int64_t, std::int64_t) { return kCopieImpossible; }
+
 int Synchroniser(Poignee h) { return FlushFileBuffers(h) ? 0 : Echec(); }
 
 int Fermer(Poignee h) { return CloseHandle(h) ? 0 : Echec(); }
@@ -151,6 +153,38 @@ int EcrireA(Poignee h, std::int64_t position, const char* d, std::size_t n) {
   return EcrireEnBoucle(d, n, [h, position](const char* p, std::size_t k, std::int64_t deja) {
     return ::pwrite(h, p, k, static_cast<off_t>(position + deja));
   });
+}
+
+int CopierPlage(Poignee h, const std::filesystem::path& source, std::int64_t debut, std::int64_t longueur) {
+#ifdef __linux__
+  const int s = ::open(source.c_str(), O_RDONLY | O_CLOEXEC);
+  if (s < 0) return Echec();
+  off_t depuis = static_cast<off_t>(debut);
+  std::int64_t copies = 0;
+  int r = 0;
+  while (copies < longueur) {
+    const ssize_t n = ::copy_file_range(s, &depuis, h, nullptr, static_cast<std::size_t>(longueur - copies), 0);
+    if (n < 0 && errno == EINTR) continue;
+    if (n < 0 && copies == 0 && (errno == EXDEV || errno == EINVAL || errno == ENOSYS || errno == EOPNOTSUPP)) {
+      r = kCopieImpossible;
+      break;
+    }
+    if (n < 0) {
+      r = Echec();
+      break;
+    }
+    if (n == 0) {  // the source is shorter than said
+      r = 62;
+      break;
+    }
+    copies += n;
+  }
+  ::close(s);
+  return r;
+#else
+  (void)h, (void)source, (void)debut, (void)longueur;
+  return kCopieImpossible;
+#endif
 }
 
 int Synchroniser(Poignee h) {

@@ -22,6 +22,11 @@ int CreerNeuf(const std::filesystem::path& p, Poignee& h);
 int EcrireTout(Poignee h, const char* d, std::size_t n);
 // Writes at `position` without moving the place where the next EcrireTout writes.
 int EcrireA(Poignee h, std::int64_t position, const char* d, std::size_t n);
+// Appends `longueur` bytes of the file `source`, from `debut`, to what `h` holds, the system
+// copying them without a trip through the program's memory. kCopieImpossible, nothing
+// written, where the system cannot: the caller then reads and writes them itself.
+inline constexpr int kCopieImpossible = -2;
+int CopierPlage(Poignee h, const std::filesystem::path& source, std::int64_t debut, std::int64_t longueur);
 // Down to the disk itself, not only to the system's cache.
 int Synchroniser(Poignee h);
 int Fermer(Poignee h);
