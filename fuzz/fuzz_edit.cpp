@@ -65,7 +65,11 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   DictionnaireOuvert suivi;
   suivi.fichiers = neuf.fichiers;
   ConstruireTables(vieux.fichiers.dictio, suivi.TableIndex, suivi.Lettres, [] {});
-  if (!SuitRetouche(suivi.fichiers, ancien, true, rc, suivi.TableIndex, suivi.Lettres, [] {})) std::abort();
+  {
+    SuiviIndex index(suivi.fichiers, ancien, n, LireEtatDictio(suivi.fichiers.dictio), rc);
+    if (!index.Actif()) std::abort();
+    index.Termine(true, suivi.TableIndex, suivi.Lettres, [] {});
+  }
   const std::string index = Lit(d + "i"), lettres = Lit(d + "l");
 
   neuf.fichiers.index = d + "i2";

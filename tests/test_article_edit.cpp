@@ -42,6 +42,7 @@ struct Dico {
   }
   // Writes the change into "dic2" and brings the index up to date; false when it had to be
   // rebuilt.
+  // The pieces point into `r`, which the caller keeps.
   std::pair<Recomposition, bool> Applique(const Retouche& r) {
     const EtatDictio ancien = LireEtatDictio(f.dictio);
     Recomposition rc;
@@ -52,7 +53,9 @@ struct Dico {
     }
     FichiersIndex f2 = f;
     f2.dictio = d.Chemin("dic2");
-    const bool suivi = SuitRetouche(f2, ancien, true, rc, o.TableIndex, o.Lettres, [] {});
+    SuiviIndex index(f2, ancien, o.TableIndex.NombreArticle(), LireEtatDictio(f2.dictio), rc);
+    const bool suivi = index.Actif();
+    if (suivi) index.Termine(true, o.TableIndex, o.Lettres, [] {});
     o.fichiers = f2;
     return {rc, suivi};
   }

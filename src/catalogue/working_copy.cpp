@@ -30,25 +30,29 @@ Changement RetoucheCopieTravail(Catalogue& c, const std::string& dossierDictio, 
                                 Selections& s, const Retouche& r, const AvisOuverture& avis) {
   const std::string copie = NomDictionnaire(c, dossierDictio, d) + ".bak";
   const EtatDictio ancien = LireEtatDictio(dico.fichiers.dictio);
-  Recomposition rc;
-  {
-    EcritureSure cible(copie, Donnees::Utilisateur);
-    rc = EcritRetouche(dico.fichiers.dictio, cible, dico.TableIndex, r);
-    cible.Valider();
-  }
+  FichiersIndex fichiers = dico.fichiers;
+  fichiers.dictio = copie;
+  EcritureSure cible(copie, Donnees::Utilisateur);
+  const Recomposition rc = EcritRetouche(dico.fichiers.dictio, cible, dico.TableIndex, r);
+  // The new index is written while the working copy goes to the disk; if the copy cannot
+  // take its place, the new index is dropped with it.
+  SuiviIndex index(fichiers, ancien, dico.TableIndex.NombreArticle(),
+                   {rc.taille, static_cast<std::int64_t>(cible.Date().time_since_epoch().count())}, rc);
+  cible.Valider();
   c[d].DicModifie = true;
   dico.fichiers.dictio = copie;
   SuitChangement(s, d, rc.changement);
-  bool suivi = false;
+  if (!index.Actif()) {
+    InitIndex(dico, s, d, avis);
+    return rc.changement;
+  }
   try {
-    suivi = SuitRetouche(dico.fichiers, ancien, dico.OrdreAlpha, rc, dico.TableIndex, dico.Lettres, avis.bip);
+    index.Termine(dico.OrdreAlpha, dico.TableIndex, dico.Lettres, avis.bip);
   } catch (const ErreurEcriture& e) {
     // The tables follow the change already; the files are rebuilt at the next opening.
     AlerteIndexEnMemoire(MessageErreurEcriture(e), avis);
-    suivi = true;
   }
-  if (suivi) MarqueEntrees(dico.TableIndex, s, d, rc.changement.NumerosInseres());
-  else InitIndex(dico, s, d, avis);
+  MarqueEntrees(dico.TableIndex, s, d, rc.changement.NumerosInseres());
   return rc.changement;
 }
 

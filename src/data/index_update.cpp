@@ -7,24 +7,17 @@
 #include "data/files.h"
 #include "data/folding.h"
 #include "data/index_record.h"
-#include "data/safe_write.h"
 
 namespace lex {
+namespace {
 
-bool SuitRetouche(const FichiersIndex& f, const EtatDictio& ancien, bool ordreAlpha, const Recomposition& rc,
-                  IndexTable& table, TableLettre& lettres, const std::function<void()>& bip) {
-  if (!IndexCourant(f, ancien, table.NombreArticle())) return false;
-  ErrorTrap trap(" sur InitIndex");
-  // The tables first: whatever happens to the files, the dictionary is read from them.
-  table.Recomposer(rc.morceaux, static_cast<std::int32_t>(rc.taille), SansaccentEpureVers);
-  int compteurBip = 0;
-  RemplirTableLettre(table, lettres, compteurBip, bip);
+std::unique_ptr<EcritureSure> EcritIndex(const FichiersIndex& f, const EtatDictio& nouveau, const Recomposition& rc) {
   Fichier vieux = OuvrirFichier(f.index);
-  EcritureSure idx(f.index, Donnees::Reconstructible);
+  auto idx = std::make_unique<EcritureSure>(f.index, Donnees::Reconstructible);
   {
     char place[2 * kTailleEnreg];
     std::memset(place, ' ', sizeof place);
-    idx.Ecrire(place, sizeof place);
+    idx->Ecrire(place, sizeof place);
   }
   constexpr std::size_t kParBloc = 8192;
   const auto bloc = std::make_unique_for_overwrite<char[]>(kParBloc * kTailleEnreg);
@@ -32,15 +25,13 @@ bool SuitRetouche(const FichiersIndex& f, const EtatDictio& ancien, bool ordreAl
   char derniereCle[kTailleChamp];
   std::memset(derniereCle, ' ', sizeof derniereCle);
   std::int32_t nombre = 0;
-  std::string cle;
   for (const IndexTable::Morceau& m : rc.morceaux) {
     if (m.dernier < m.premier) {
       Enreg e;
       e.Index(m.texte);
-      cle = SansaccentEpure(m.texte);
-      e.Cle(cle);
+      e.Cle(SansaccentEpure(m.texte));
       e.Valeur(m.position);
-      idx.Ecrire(e.octets, kTailleEnreg);
+      idx->Ecrire(e.octets, kTailleEnreg);
       std::memcpy(derniereCle, e.octets + kTailleChamp, kTailleChamp);
       ++nombre;
       continue;
@@ -55,22 +46,45 @@ bool SuitRetouche(const FichiersIndex& f, const EtatDictio& ancien, bool ordreAl
         char* v = bloc.get() + r * kTailleEnreg + 2 * kTailleChamp;
         PoseValeur(v, static_cast<std::int32_t>(LitValeur(v) + m.decalage));
       }
-      idx.Ecrire(bloc.get(), n * kTailleEnreg);
+      idx->Ecrire(bloc.get(), n * kTailleEnreg);
       std::memcpy(derniereCle, bloc.get() + (n - 1) * kTailleEnreg + kTailleChamp, kTailleChamp);
       k += static_cast<std::int32_t>(n);
       nombre += static_cast<std::int32_t>(n);
     }
   }
-  vieux.reset();
-  const EtatDictio nouveau = LireEtatDictio(f.dictio);
   char tete[2 * kTailleEnreg];
   PoseEnTete(tete, nombre, std::string_view(derniereCle, kTailleChamp), nouveau.date,
-             static_cast<std::int32_t>(rc.taille));
-  idx.EcrireA(0, tete, sizeof tete);
-  // The letter file first: an index found current never stands beside an old letter file.
-  if (ordreAlpha) EcrireFichierLettre(f.lettre, lettres);
-  idx.Valider();
-  return true;
+             static_cast<std::int32_t>(nouveau.taille));
+  idx->EcrireA(0, tete, sizeof tete);
+  return idx;
+}
+
+}  // namespace
+
+SuiviIndex::SuiviIndex(const FichiersIndex& f, const EtatDictio& ancien, std::int32_t nombre,
+                       const EtatDictio& nouveau, const Recomposition& rc)
+    : f_(f), rc_(rc) {
+  if (!IndexCourant(f, ancien, nombre)) return;
+  ecriture_ = std::async(std::launch::async, [this, nouveau] { return EcritIndex(f_, nouveau, rc_); });
+}
+
+SuiviIndex::~SuiviIndex() {
+  if (!ecriture_.valid()) return;
+  try {
+    ecriture_.get();  // the new index, never put in place, goes with its temporary file
+  } catch (...) {
+  }
+}
+
+void SuiviIndex::Termine(bool ordreAlpha, IndexTable& table, TableLettre& lettres, const std::function<void()>& bip) {
+  ErrorTrap trap(" sur InitIndex");
+  // The tables first: whatever happens to the files, the dictionary is read from them.
+  table.Recomposer(rc_.morceaux, static_cast<std::int32_t>(rc_.taille), SansaccentEpureVers);
+  int compteurBip = 0;
+  RemplirTableLettre(table, lettres, compteurBip, bip);
+  std::unique_ptr<EcritureSure> idx = ecriture_.get();
+  if (ordreAlpha) EcrireFichierLettre(f_.lettre, lettres);
+  idx->Valider();
 }
 
 }  // namespace lex

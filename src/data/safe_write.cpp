@@ -118,6 +118,12 @@ void EcritureSure::EcrireA(std::int64_t position, const char* p, std::size_t n) 
   Verifie(systeme::EcrireA(h_, position, p, n));
 }
 
+std::filesystem::file_time_type EcritureSure::Date() const {
+  if (date_) return *date_;
+  std::error_code ec;
+  return fs::last_write_time(temp_, ec);
+}
+
 void EcritureSure::Valider() {
   Verifie(echec_ ? echec_ : ouvert_ ? 0 : 5);
   Verifie(PanneAEtape());

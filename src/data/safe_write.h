@@ -44,6 +44,8 @@ class EcritureSure {
   void EcrireA(std::int64_t position, const char* p, std::size_t n);
   // The new file will carry this modification time (a copy keeps its source's).
   void GarderDate(std::filesystem::file_time_type date) { date_ = date; }
+  // The modification time of what was written so far, which the target keeps once in place.
+  std::filesystem::file_time_type Date() const;
   // Puts the new content in the target's place.
   void Valider();
 
