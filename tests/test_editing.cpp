@@ -75,7 +75,9 @@ TEST(Edition, UnIndexQuiNePeutSEcrireEstGardeEnMemoire) {
   EXPECT_EQ(t.NombreArticle(), 4);
 }
 
-TEST(Edition, UneCopieDeTravailDisparueEstDiteEtLeDictionnaireReste) {
+// Between two changes the working copy vanished, or was made read-only: the user is told,
+// the typing stays, and no file of theirs changes.
+TEST(Edition, UneCopieDeTravailDisparueOuProtegeeEstDiteEtLeDictionnaireReste) {
   Edition m;
   m.Cree("abeille");
   SupprimerFichier(m.d.Chemin("lex.eng.bak"));
@@ -84,8 +86,19 @@ TEST(Edition, UneCopieDeTravailDisparueEstDiteEtLeDictionnaireReste) {
   ASSERT_EQ(m.ui.boxes.size(), 1u);
   EXPECT_EQ(m.d.Lire("lex.eng"), kDictio);
   EXPECT_FALSE(FichierExistant(m.d.Chemin("lex.eng.bak")));
-  // The program goes on: the typing is still there to be kept elsewhere.
   EXPECT_EQ(m.ui.GetLineText(), "zebre");
+
+  Edition p;
+  p.Cree("abeille");
+  const std::string copie = p.d.Lire("lex.eng.bak");
+  std::filesystem::permissions(CheminNatif(p.d.Chemin("lex.eng.bak")), std::filesystem::perms::owner_read);
+  p.ui.boxes.clear();
+  p.Cree("zebre");
+  ASSERT_EQ(p.ui.boxes.size(), 1u);
+  EXPECT_NE(p.ui.boxes[0].find(p.d.Chemin("lex.eng.bak")), std::string::npos) << p.ui.boxes[0];
+  EXPECT_EQ(p.d.Lire("lex.eng.bak"), copie);
+  EXPECT_EQ(p.d.Lire("lex.eng"), kDictio);
+  EXPECT_EQ(p.f.fenetre.ModeCourant(), Mode::CreationIndex);
 }
 
 TEST(Edition, UneLigneDIndexTresLongueEtDesCaracteresRemplaces) {
