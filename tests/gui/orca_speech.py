@@ -8,7 +8,7 @@ import shutil
 import subprocess
 import sys
 
-from lexgui import Fenetre, attendre, dossier_programme, principal, verifie
+from lexgui import Fenetre, attendre, attendre_egal, dossier_programme, fermer_par_la_case, principal, verifie
 
 
 def speech_dispatcher(racine):
@@ -57,8 +57,10 @@ def paroles(journal):
     if not os.path.exists(journal):
         return []
     with open(journal, errors="replace") as f:
+        # The utterance is quoted as it is, apostrophes included: its closing quote is the one the
+        # line ends with, or that the voice (" voice=...", then a dict "{...}") follows.
         # Blanks are not heard: runs of them are compared as one.
-        return [" ".join(p.split()) for p in re.findall(r"SPEECH OUTPUT: '(.*?)'", f.read())]
+        return [" ".join(p.split()) for p in re.findall(r"SPEECH OUTPUT: '(.*?)'(?=$| voice=|\s*\{)", f.read(), re.M)]
 
 
 def entendre(journal, depuis, attendus):
@@ -91,12 +93,28 @@ def test(lex, lex_headless, racine):
             (["c"], []),  # in an article a letter is no command: nothing to hear
             (["Escape"], ["notification banane"]),
             (["c"], ["notification cerise"]),
+            # A new article: what to type, then, once OK is pressed from the keyboard, the entry
+            # added, with its accented letters.
+            (["ctrl+n"], ["notification tapez l'index puis la d\u00e9finition"]),
+            # Keys are not echoed: the text is read from the field.
+            (["dead_acute", "e", "l", "eacute", "p", "h", "a", "n", "t", "Return", "g", "r", "o", "s"], [],
+             "\u00e9l\u00e9phant\ngros"),
+            (["Tab"], ["OK"]),
+            (["space"], ["notification \u00e9l\u00e9phant ajout\u00e9"]),
         ]
-        for touches, attendus in etapes:
+        for touches, attendus, *champ in etapes:
             w.touche(*touches)
+            if champ:
+                attendre_egal(lambda: w.texte(w.txt), champ[0], "the field after " + " ".join(touches))
             if attendus:
                 n = entendre(journal, n, attendus)
-        w.fermer()
+        # Closing asks whether to save the changed dictionary; Enter says yes.
+        fermer_par_la_case(w.xid)
+        w.dialogue("Souhaitez vous sauvegarder le dictionnaire ANGLAIS francais")
+        w.focaliser_dialogue()
+        entendre(journal, n, ["Souhaitez vous sauvegarder le dictionnaire ANGLAIS francais"])
+        w.touche("Return")
+        w.attendre_fin("saving")
     finally:
         print("Orca said:")
         for p in paroles(journal):
