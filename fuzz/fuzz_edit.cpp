@@ -68,7 +68,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   {
     SuiviIndex index(suivi.fichiers, ancien, n, LireEtatDictio(suivi.fichiers.dictio), rc);
     if (!index.Actif()) std::abort();
-    index.Termine(true, suivi.TableIndex, suivi.Lettres, [] {});
+    IndexTable::Ancien avant;
+    index.Termine(true, suivi.TableIndex, suivi.Lettres, [] {}, avant);
   }
   const std::string index = Lit(d + "i"), lettres = Lit(d + "l");
 

@@ -7,6 +7,7 @@
 
 #include "base/error.h"
 #include "data/article_edit.h"
+#include "data/folding.h"
 #include "data/index_file.h"
 #include "data/index_update.h"
 #include "data/open_dictionary.h"
@@ -55,7 +56,8 @@ struct Dico {
     f2.dictio = d.Chemin("dic2");
     SuiviIndex index(f2, ancien, o.TableIndex.NombreArticle(), LireEtatDictio(f2.dictio), rc);
     const bool suivi = index.Actif();
-    if (suivi) index.Termine(true, o.TableIndex, o.Lettres, [] {});
+    IndexTable::Ancien avant;
+    if (suivi) index.Termine(true, o.TableIndex, o.Lettres, [] {}, avant);
     o.fichiers = f2;
     return {rc, suivi};
   }
@@ -152,6 +154,29 @@ TEST(Retouche, LeFichierEtLIndexSontCeQuUneReconstructionDonne) {
       }
     }
   }
+}
+
+// A change whose working copy could not take its place: the table goes back to what it was.
+TEST(Retouche, LaTableRevientQuandLaCopieNAPasPuPrendreSaPlace) {
+  Dico dic("chat\r\ncat\r\n\r\nchien\r\ndog\r\n");
+  const std::string avant = dic.d.Lire("idx");
+  Retouche r;
+  r.retires = {1};
+  r.inseres.push_back({3, "lion", 0});
+  EcritureSure cible(dic.d.Chemin("dic2"), Donnees::Reconstructible);
+  const Recomposition rc = EcritRetouche(dic.f.dictio, cible, dic.o.TableIndex, r);
+  IndexTable::Ancien ancien = dic.o.TableIndex.Recomposer(rc.morceaux, static_cast<std::int32_t>(rc.taille), SansaccentEpureVers);
+  ASSERT_EQ(dic.o.TableIndex.texte(2), "lion");
+  dic.o.TableIndex.Restaurer(std::move(ancien));
+  IndexTable t;
+  TableLettre l;
+  ASSERT_EQ(LireIndex(dic.f, t, l), EtatIndex::Charge);
+  ASSERT_EQ(dic.o.TableIndex.NombreArticle(), t.NombreArticle());
+  for (std::int32_t i = 1; i <= t.NombreArticle() + 1; ++i) {
+    EXPECT_EQ(dic.o.TableIndex.texte(i), t.texte(i));
+    EXPECT_EQ(dic.o.TableIndex.position(i), t.position(i));
+  }
+  EXPECT_EQ(dic.d.Lire("idx"), avant);
 }
 
 TEST(Retouche, UnIndexQuiNeDecritPlusLeFichierEstAReconstruire) {

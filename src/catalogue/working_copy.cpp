@@ -1,5 +1,8 @@
 #include "catalogue/working_copy.h"
 
+#include <exception>
+#include <future>
+
 #include "data/index_update.h"
 #include "data/write_error.h"
 #include "selection/marks.h"
@@ -38,7 +41,26 @@ Changement RetoucheCopieTravail(Catalogue& c, const std::string& dossierDictio, 
   // take its place, the new index is dropped with it.
   SuiviIndex index(fichiers, ancien, dico.TableIndex.NombreArticle(),
                    {rc.taille, static_cast<std::int64_t>(cible.Date().time_since_epoch().count())}, rc);
-  cible.Valider();
+  // Forcing the working copy to the disk and freeing the old one take most of the time: the
+  // tables and the index follow the change meanwhile, and go back if the copy fails.
+  std::future<void> valide = std::async(std::launch::async, [&cible] { cible.Valider(); });
+  IndexTable::Ancien table;
+  const TableLettre lettres = dico.Lettres;
+  std::exception_ptr echecIndex;
+  if (index.Actif()) {
+    try {
+      index.Termine(dico.OrdreAlpha, dico.TableIndex, dico.Lettres, avis.bip, table);
+    } catch (...) {
+      echecIndex = std::current_exception();
+    }
+  }
+  try {
+    valide.get();
+  } catch (...) {
+    dico.TableIndex.Restaurer(std::move(table));
+    dico.Lettres = lettres;
+    throw;
+  }
   c[d].DicModifie = true;
   dico.fichiers.dictio = copie;
   SuitChangement(s, d, rc.changement);
@@ -46,11 +68,17 @@ Changement RetoucheCopieTravail(Catalogue& c, const std::string& dossierDictio, 
     InitIndex(dico, s, d, avis);
     return rc.changement;
   }
-  try {
-    index.Termine(dico.OrdreAlpha, dico.TableIndex, dico.Lettres, avis.bip);
-  } catch (const ErreurEcriture& e) {
-    // The tables follow the change already; the files are rebuilt at the next opening.
-    AlerteIndexEnMemoire(MessageErreurEcriture(e), avis);
+  if (echecIndex) {
+    try {
+      std::rethrow_exception(echecIndex);
+    } catch (const ErreurEcriture& e) {
+      // The tables follow the change already; the files are rebuilt at the next opening.
+      AlerteIndexEnMemoire(MessageErreurEcriture(e), avis);
+    } catch (...) {
+      // An old index that was not what it said: built again from the new dictionary.
+      InitIndex(dico, s, d, avis);
+      return rc.changement;
+    }
   }
   MarqueEntrees(dico.TableIndex, s, d, rc.changement.NumerosInseres());
   return rc.changement;

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstring>
+#include <utility>
 
 #include "base/error.h"
 #include "data/huge_pages.h"
@@ -49,8 +50,8 @@ void IndexTable::Terminer(std::int32_t tailleDictio) {
   positions_.push_back(tailleDictio);
 }
 
-void IndexTable::Recomposer(const std::vector<Morceau>& morceaux, std::int32_t tailleDictio,
-                            std::size_t (*plier)(std::string_view texte, char* destination)) {
+IndexTable::Ancien IndexTable::Recomposer(const std::vector<Morceau>& morceaux, std::int32_t tailleDictio,
+                                          std::size_t (*plier)(std::string_view texte, char* destination)) {
   std::size_t nombre = 0;
   for (const Morceau& m : morceaux) nombre += m.dernier >= m.premier ? static_cast<std::size_t>(m.dernier - m.premier + 1) : 1;
   std::vector<Ref> refs;
@@ -74,9 +75,22 @@ void IndexTable::Recomposer(const std::vector<Morceau>& morceaux, std::int32_t t
     libre_ -= m.texte.size() + longCle;
     positions.push_back(m.position);
   }
-  refs_ = std::move(refs);
-  positions_ = std::move(positions);
+  Ancien ancien;
+  ancien.refs_ = std::exchange(refs_, std::move(refs));
+  ancien.positions_ = std::exchange(positions_, std::move(positions));
+  ancien.taille_ = taille_;
+  ancien.plein_ = true;
   Terminer(tailleDictio);
+  return ancien;
+}
+
+void IndexTable::Restaurer(Ancien&& ancien) {
+  if (!ancien.plein_) return;
+  // The new entries' texts stay in the blocks, unreferenced, until the table is rebuilt.
+  refs_ = std::move(ancien.refs_);
+  positions_ = std::move(ancien.positions_);
+  taille_ = ancien.taille_;
+  ancien.plein_ = false;
 }
 
 void IndexTable::Verifier(std::int32_t i, bool sentinelle) const {

@@ -55,8 +55,12 @@ class IndexTable {
     std::string_view texte;  // a new entry's, its key folded by `plier` as AjouterPlie does
     std::int32_t position = 0;
   };
-  void Recomposer(const std::vector<Morceau>& morceaux, std::int32_t tailleDictio,
-                  std::size_t (*plier)(std::string_view texte, char* destination));
+  // What Recomposer replaced, to be put back when the change it followed did not take place.
+  class Ancien;
+  Ancien Recomposer(const std::vector<Morceau>& morceaux, std::int32_t tailleDictio,
+                    std::size_t (*plier)(std::string_view texte, char* destination));
+  // Back to the table before Recomposer gave `ancien`; nothing when it is empty.
+  void Restaurer(Ancien&& ancien);
   // Room for `octets` bytes of changed texts and their keys in one block: marking every entry
   // then asks the system for memory once.
   void ReserverChangements(std::size_t octets) { Place(octets); }
@@ -81,6 +85,15 @@ class IndexTable {
   std::vector<Ref> refs_;
   std::vector<std::int32_t> positions_;
   std::int32_t taille_ = 0;
+
+ public:
+  class Ancien {
+    friend class IndexTable;
+    std::vector<Ref> refs_;
+    std::vector<std::int32_t> positions_;
+    std::int32_t taille_ = 0;
+    bool plein_ = false;
+  };
 };
 
 }  // namespace lex

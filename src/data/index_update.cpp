@@ -76,10 +76,11 @@ SuiviIndex::~SuiviIndex() {
   }
 }
 
-void SuiviIndex::Termine(bool ordreAlpha, IndexTable& table, TableLettre& lettres, const std::function<void()>& bip) {
+void SuiviIndex::Termine(bool ordreAlpha, IndexTable& table, TableLettre& lettres, const std::function<void()>& bip,
+                         IndexTable::Ancien& ancien) {
   ErrorTrap trap(" sur InitIndex");
   // The tables first: whatever happens to the files, the dictionary is read from them.
-  table.Recomposer(rc_.morceaux, static_cast<std::int32_t>(rc_.taille), SansaccentEpureVers);
+  ancien = table.Recomposer(rc_.morceaux, static_cast<std::int32_t>(rc_.taille), SansaccentEpureVers);
   int compteurBip = 0;
   RemplirTableLettre(table, lettres, compteurBip, bip);
   std::unique_ptr<EcritureSure> idx = ecriture_.get();

@@ -22,18 +22,20 @@ class SuiviIndex {
   // built again.
   SuiviIndex(const FichiersIndex& f, const EtatDictio& ancien, std::int32_t nombre, const EtatDictio& nouveau,
              const Recomposition& rc);
-  // Dropped without Termine (the new dictionary could not be put in place): the old index
-  // file stays, the tables are untouched.
+  // Dropped before Termine: the old index file stays, the tables are untouched.
   ~SuiviIndex();
   SuiviIndex(const SuiviIndex&) = delete;
   SuiviIndex& operator=(const SuiviIndex&) = delete;
 
   bool Actif() const { return ecriture_.valid(); }
-  // Once the new dictionary is in place: the tables follow it, then the letter file (when
-  // `ordreAlpha`) and the index file take their places, in that order, so that an index
-  // found current never stands beside an old letter file. A failed write raises
+  // The tables follow the new dictionary, then the letter file (when `ordreAlpha`) and the
+  // index file take their places, in that order, so that an index found current never
+  // stands beside an old letter file. `ancien` receives what the table held, to be put back
+  // if the new dictionary does not take its place after all (the new index files then
+  // describe no file, and the next opening rebuilds them). A failed write raises
   // ErreurEcriture, the tables being up to date already.
-  void Termine(bool ordreAlpha, IndexTable& table, TableLettre& lettres, const std::function<void()>& bip);
+  void Termine(bool ordreAlpha, IndexTable& table, TableLettre& lettres, const std::function<void()>& bip,
+               IndexTable::Ancien& ancien);
 
  private:
   FichiersIndex f_;
