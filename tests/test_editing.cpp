@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
+#include <fstream>
 
 #include "controller/buttons.h"
 #include "controller/events.h"
@@ -51,6 +52,27 @@ TEST(Edition, UnDisquePleinGardeLaSaisieEtLesFichiers) {
   EXPECT_EQ(m.f.fenetre.ModeCourant(), Mode::Index);
   EXPECT_EQ(m.f.dico.TableIndex.NombreArticle(), 4);
   EXPECT_EQ(m.f.dico.TableIndex.texte(4), "zebre ajout\xE9");
+}
+
+// A change follows the index by shifting its records, not by reading the dictionary again:
+// a record that a rebuild would write otherwise is still there after two changes.
+TEST(Edition, LIndexSuitLesChangementsSansEtreRefait) {
+  Edition m;
+  std::string idx = m.d.Lire("index.lex.eng");
+  const std::size_t chien = idx.find("chien (n.)");
+  ASSERT_NE(chien, std::string::npos);
+  idx.replace(chien, 5, "CHIEN");
+  // Written in place, so that the index stays the current one of the dictionary.
+  {
+    std::fstream io(CheminNatif(m.d.Chemin("index.lex.eng")), std::ios::in | std::ios::out | std::ios::binary);
+    io.seekp(static_cast<std::streamoff>(chien));
+    io.write("CHIEN", 5);
+  }
+  m.Cree("abeille");
+  m.Cree("zebre");
+  const std::string apres = m.d.Lire("index.lex.eng");
+  EXPECT_NE(apres.find("CHIEN (n.)"), std::string::npos);
+  EXPECT_NE(apres.find("zebre"), std::string::npos);
 }
 
 TEST(Edition, UnIndexQuiNePeutSEcrireEstGardeEnMemoire) {

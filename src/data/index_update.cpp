@@ -65,6 +65,7 @@ SuiviIndex::SuiviIndex(const FichiersIndex& f, const EtatDictio& ancien, std::in
                        const EtatDictio& nouveau, const Recomposition& rc)
     : f_(f), rc_(rc) {
   if (!IndexCourant(f, ancien, nombre)) return;
+  actif_ = true;
   ecriture_ = std::async(std::launch::async, [this, nouveau] { return EcritIndex(f_, nouveau, rc_); });
 }
 

@@ -27,7 +27,7 @@ class SuiviIndex {
   SuiviIndex(const SuiviIndex&) = delete;
   SuiviIndex& operator=(const SuiviIndex&) = delete;
 
-  bool Actif() const { return ecriture_.valid(); }
+  bool Actif() const { return actif_; }
   // The tables follow the new dictionary, then the letter file (when `ordreAlpha`) and the
   // index file take their places, in that order, so that an index found current never
   // stands beside an old letter file. `ancien` receives what the table held, to be put back
@@ -40,6 +40,7 @@ class SuiviIndex {
  private:
   FichiersIndex f_;
   const Recomposition& rc_;
+  bool actif_ = false;
   std::future<std::unique_ptr<EcritureSure>> ecriture_;
 };
 
