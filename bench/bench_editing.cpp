@@ -14,6 +14,7 @@
 #include <fstream>
 
 #include "bench_common.h"
+#include "programme.h"
 #include "controller/events.h"
 #include "controller/form.h"
 #include "controller/key_route.h"
@@ -28,22 +29,6 @@ namespace fs = std::filesystem;
 // In the copy with duplicates, every kPas-th article is written twice in a row: the order
 // stays alphabetical, so that the dictionary is opened as the plain one is.
 constexpr std::int32_t kPas = 100;
-
-struct Programme {
-  headless::HeadlessWindow ui;
-  Form f{ui, ui};
-  explicit Programme(const std::string& dossier) {
-    EvChargement(f, dossier);
-    Touche(0, 'a');
-    Touche(0, 13);
-    if (f.fenetre.ModeCourant() != Mode::Index) Echec("the dictionary did not open");
-  }
-  void Touche(int code, char c = 0) {
-    if (RouteTouche(f, Champ::Txt, code, 0, c ? static_cast<char32_t>(static_cast<unsigned char>(c)) : 0).auChamp)
-      ui.Shown().Key(code, 0, c);
-  }
-  std::int32_t Nombre() const { return f.dico.TableIndex.NombreArticle(); }
-};
 
 // A program folder holding one dictionary. Its first opening builds the index files; they
 // are kept aside and put back between rounds, with the working copy dropped, so that every

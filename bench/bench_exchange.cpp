@@ -9,6 +9,7 @@
 #include <random>
 
 #include "bench_common.h"
+#include "programme.h"
 #include "controller/events.h"
 #include "controller/form.h"
 #include "controller/key_route.h"
@@ -37,21 +38,6 @@ void EcrireImport(const std::string& nom) {
     for (unsigned l = alea() % 3; l > 0; --l) out << mot() << ' ' << mot() << ' ' << mot() << ' ' << mot() << "\r\n";
   }
 }
-
-struct Programme {
-  headless::HeadlessWindow ui;
-  Form f{ui, ui};
-  explicit Programme(const std::string& dossier) {
-    EvChargement(f, dossier);
-    Touche(0, 'a');
-    Touche(0, 13);
-    if (f.fenetre.ModeCourant() != Mode::Index) Echec("the dictionary did not open");
-  }
-  void Touche(int code, char c = 0) {
-    if (RouteTouche(f, Champ::Txt, code, 0, c ? static_cast<char32_t>(static_cast<unsigned char>(c)) : 0).auChamp)
-      ui.Shown().Key(code, 0, c);
-  }
-};
 
 }  // namespace
 
