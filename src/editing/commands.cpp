@@ -42,7 +42,9 @@ const std::vector<std::int32_t>& Selectionnes(const PartiesEdition& p) {
 
 // Entries removed: the user stays on their entry, or goes to the one that followed it (the
 // one before at the end).
-void RetireEntrees(PartiesEdition& p, std::vector<std::int32_t> retires, std::int32_t ici) {
+void RetireEntrees(PartiesEdition& p, std::vector<std::int32_t> retires) {
+  const ListeAffichee& liste = p.ecran.Liste();
+  const std::int32_t ici = liste.Nombre() > 0 ? liste.NumeroDictio(p.ecran.EntreeCourante()) : 1;
   std::sort(retires.begin(), retires.end());
   retires.erase(std::unique(retires.begin(), retires.end()), retires.end());
   Retouche r;
@@ -125,7 +127,7 @@ void mnuEffaceIndex(PartiesEdition& p) {
   if (n == 0) return;
   const std::string ligne(LigneIndexDe(ArticleDictio(p, n)));
   if (!Confirme(p, "Souhaitez vous supprimer l'index " + ligne, "Suppression d'un index")) return;
-  RetireEntrees(p, {n}, n);
+  RetireEntrees(p, {n});
   p.ecran.message("index supprim\xE9");
 }
 
@@ -142,8 +144,7 @@ void mnuEffaceIndexSelection(PartiesEdition& p) {
   if (!Confirme(p, "Souhaitez vous supprimer les " + n + " index s\xE9lectionn\xE9s",
                 "Suppression des index s\xE9lectionn\xE9s"))
     return;
-  const ListeAffichee& liste = p.ecran.Liste();
-  RetireEntrees(p, selection, liste.Nombre() > 0 ? liste.NumeroDictio(p.ecran.EntreeCourante()) : 1);
+  RetireEntrees(p, selection);
   p.ecran.message(n + " index supprim\xE9s");
 }
 
@@ -158,8 +159,7 @@ void mnuEffaceArticleDouble(PartiesEdition& p) {
   const std::string n = std::to_string(doubles.size());
   if (!Confirme(p, "Souhaitez vous supprimer les " + n + " articles doubles", "Suppression des articles doubles"))
     return;
-  const ListeAffichee& liste = p.ecran.Liste();
-  RetireEntrees(p, doubles, liste.Nombre() > 0 ? liste.NumeroDictio(p.ecran.EntreeCourante()) : 1);
+  RetireEntrees(p, doubles);
   p.ecran.message(n + " articles doubles supprim\xE9s");
 }
 
