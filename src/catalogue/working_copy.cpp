@@ -37,12 +37,12 @@ Changement RetoucheCopieTravail(Catalogue& c, const std::string& dossierDictio, 
   fichiers.dictio = copie;
   EcritureSure cible(copie, Donnees::Utilisateur);
   const Recomposition rc = EcritRetouche(dico.fichiers.dictio, cible, dico.TableIndex, r);
-  // The new index is written while the working copy goes to the disk; if the copy cannot
-  // take its place, the new index is dropped with it.
+  // Started now, the new index is written while the working copy goes to the disk.
   SuiviIndex index(fichiers, ancien, dico.TableIndex.NombreArticle(),
                    {rc.taille, static_cast<std::int64_t>(cible.Date().time_since_epoch().count())}, rc);
   // Forcing the working copy to the disk and freeing the old one take most of the time: the
-  // tables and the index follow the change meanwhile, and go back if the copy fails.
+  // tables and the index follow the change meanwhile. If the copy fails, the tables go back;
+  // index files already replaced describe no file then, and the next opening rebuilds them.
   std::future<void> valide = std::async(std::launch::async, [&cible] { cible.Valider(); });
   IndexTable::Ancien table;
   const TableLettre lettres = dico.Lettres;
