@@ -57,4 +57,15 @@ class ListeAffichee {
   std::string titre_;
 };
 
+// What the commands that work on the list shown ask of the screen that shows it.
+class EcranListe {
+ public:
+  virtual ~EcranListe() = default;
+  // The list the index page shows.
+  virtual const ListeAffichee& Liste() const = 0;
+  // The entry the user is on, in the list shown: the article being read, or the line under
+  // the caret.
+  virtual std::int32_t EntreeCourante() const = 0;
+};
+
 }  // namespace lex

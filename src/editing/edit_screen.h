@@ -12,12 +12,8 @@
 
 namespace lex {
 
-class EcranEdition : public virtual Ecran {
+class EcranEdition : public virtual Ecran, public virtual EcranListe {
  public:
-  // The list the index page shows.
-  virtual const ListeAffichee& Liste() const = 0;
-  // The entry the user is on, in the list shown (in an article, the article's).
-  virtual std::int32_t EntreeCourante() const = 0;
   // The field made editable for typing an article: empty for a new one (mode CreationIndex),
   // holding `texte` for a change (mode ModificationIndex). `entree` is the dictionary's own
   // entry the user came from, which the typing keeps.

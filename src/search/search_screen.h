@@ -11,17 +11,13 @@
 
 namespace lex {
 
-class EcranRecherche : public virtual Ecran {
+class EcranRecherche : public virtual Ecran, public virtual EcranListe {
  public:
-  // The list the index page shows.
-  virtual const ListeAffichee& Liste() const = 0;
   // The shown field's whole text and caret.
   virtual std::string TexteChamp() const = 0;
   virtual std::size_t CurseurChamp() const = 0;
   // The caret to `position` of the shown field, the line there announced.
   virtual void MontreOccurrence(std::size_t position) = 0;
-  // The entry the user is on: the article being read, or the index line under the caret.
-  virtual std::int32_t EntreeCourante() const = 0;
   // The page of the shown list starting at entry i, the caret on it, its line announced.
   virtual void MontrePage(std::int32_t i) = 0;
   // Back to the page of the shown list (from an article too) starting at entry i; its line

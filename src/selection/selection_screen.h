@@ -14,12 +14,8 @@
 
 namespace lex {
 
-class EcranSelection : public virtual Ecran {
+class EcranSelection : public virtual Ecran, public virtual EcranListe {
  public:
-  // The list the index page shows.
-  virtual const ListeAffichee& Liste() const = 0;
-  // The entry the user is on, in the list shown.
-  virtual std::int32_t EntreeCourante() const = 0;
   // The page shown again after its marks changed, the caret where it was; its line said
   // when `annonce`.
   virtual void RemontrePage(bool annonce) = 0;
