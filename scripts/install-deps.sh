@@ -3,7 +3,8 @@
 # those that are missing. Usage: scripts/install-deps.sh [build|test|fuzz|all]
 set -euo pipefail
 what=${1:-all}
-build=(g++ cmake make pkg-config libgtest-dev libgmock-dev libwxgtk3.2-dev libgtk-3-dev)
+build=(g++ cmake make pkg-config libgtest-dev libgmock-dev libwxgtk3.2-dev libgtk-3-dev
+       wx3.2-i18n)  # the toolkit's own texts in French: its dialogs' buttons
 test=(xvfb xauth x11-utils xdotool dbus-daemon dbus-x11 at-spi2-core python3 python3-pyatspi python3-gi
       orca speech-dispatcher speech-dispatcher-espeak-ng espeak-ng)
 # libFuzzer and the sanitizer runtimes come with clang's runtime package.

@@ -1,5 +1,8 @@
 #include <gtest/gtest.h>
 
+#include <cctype>
+#include <set>
+
 #include "data/files.h"
 #include "app/headless/headless_window.h"
 #include "test_support.h"
@@ -27,6 +30,19 @@ TEST(Window, RepeatedMessagesAlwaysChangeTheLabel) {
 // The real window's menus give their shortcuts to the toolkit by name.
 TEST(Window, ShortcutName) {
   EXPECT_EQ(MenuParNom("mnuRechercheSuivant")->raccourci.Nom(), "Ctrl+F3");
+}
+
+// Alt and a letter opens a menu: a letter missing or given twice leaves a menu that the
+// keyboard reaches only by walking the bar.
+TEST(Window, EveryMenuHasItsOwnAccessLetter) {
+  std::set<char> lettres;
+  for (const Menu& m : TableMenus()) {
+    const std::size_t et = m.legende.find('&');
+    ASSERT_NE(et, std::string::npos) << m.nom;
+    ASSERT_LT(et + 1, m.legende.size()) << m.nom;
+    const char c = static_cast<char>(std::tolower(static_cast<unsigned char>(m.legende[et + 1])));
+    EXPECT_TRUE(lettres.insert(c).second) << m.nom << " uses '" << c << "' again";
+  }
 }
 
 TEST(Window, ErrorTrapReportsTheInnermostLabelAndEndsTheProgram) {

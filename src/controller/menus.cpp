@@ -52,7 +52,7 @@ const std::vector<Menu>& TableMenus() {
         {M::MnuDeSelection, "MnuDeSelection", "d\xE9s\xE9lection d'un index : Ctrl-Espace", aucun},
         {M::MnuSelectionTout, "MnuSelectionTout", "S\xE9lection de tous les index", ctrl('A')},
         {M::MnuDeSelectionTout, "MnuDeSelectionTout", "d\xE9s\xE9lection de tous les index", ctrl('Z')}}},
-      {"mnuRecherche", "Recherche",
+      {"mnuRecherche", "&Recherche",
        {{M::mnuRechercheindex, "mnuRechercheindex", "Recherche du d\xE9" "but d'un index", ctrl('I')},
         {M::mnuRechercheDansIndex, "mnuRechercheDansIndex", "Recherche d'une chaine dans l'index", ctrl('R')},
         {M::mnuRechercheAvant, "mnuRechercheAvant", "Recherche d'une chaine dans les d\xE9" "finitions", ctrl('F')},

@@ -245,19 +245,18 @@ def police(acc):
 
 class Fenetre:
     """lex started in `dossier`, with every event a screen reader relies on recorded:
-    self.paroles: each message-line text as it is announced (the label's name when its
-    "showing" state is notified), self.titres: the window title changes, self.carets:
-    (field, offset) of each caret move."""
+    self.paroles: each message as it is announced (the description the focused control is given
+    for that moment: what a screen reader speaks as it is), self.titres: the window title
+    changes, self.carets: (field, offset) of each caret move."""
 
     TYPES = ["object:text-caret-moved", "object:state-changed:showing", "object:property-change:accessible-name",
-             "object:state-changed:focused"]
+             "object:state-changed:focused", "object:property-change:accessible-description"]
 
     ouvertes = []
 
     def __init__(self, dossier, env=None):
         Fenetre.ouvertes.append(self)
         self.paroles, self.titres, self.carets, self.journal = [], [], [], []
-        self._nom_label = None
         self._ecoute = self._evenement
         for t in self.TYPES:
             pyatspi.Registry.registerEventListener(self._ecoute, t)
@@ -266,8 +265,8 @@ class Fenetre:
         self.frame = attendre(lambda: next((c for c in self.app if c and role(c) == "frame"), None), "the frame")
         textes = attendre(lambda: self._textes(), "the two text fields")
         self.rtb, self.txt = textes
-        self.label = attendre(lambda: next((c for c in descendants(self.frame) if role(c) == "notification"), None),
-                              "the message line (a notification)")
+        self.label = attendre(lambda: next((c for c in descendants(self.frame) if role(c) == "label"), None),
+                              "the message line (a label)")
         self.boutons = [c for c in descendants(self.frame) if role(c) == "push button"]
         ids = self._fenetres_x("--sync")
         if not ids:
@@ -292,11 +291,9 @@ class Fenetre:
         except Exception:
             return
         self.journal.append((ev.type, r, ev.detail1, ev.any_data if isinstance(ev.any_data, str) else None))
-        if r == "notification":
-            if ev.type.startswith("object:property-change:accessible-name"):
-                self._nom_label = ev.any_data
-            elif ev.type.startswith("object:state-changed:showing") and ev.detail1 == 1:
-                self.paroles.append(self._nom_label if self._nom_label is not None else ev.source.name)
+        if ev.type.startswith("object:property-change:accessible-description"):
+            if ev.any_data:
+                self.paroles.append(ev.any_data)
         elif r == "frame" and ev.type.startswith("object:property-change:accessible-name"):
             self.titres.append(ev.any_data)
         elif r == "text" and ev.type.startswith("object:text-caret-moved"):
@@ -390,6 +387,16 @@ class Fenetre:
         if self.proc.poll() is None:
             self.proc.kill()
             self.proc.wait()
+
+
+def entendu(message):
+    """What is announced of a message-line text: the blanks around it are not (a blank message
+    says nothing)."""
+    return message.strip()
+
+
+def entendus(messages):
+    return [entendu(m) for m in messages if m.strip()]
 
 
 def verifie(condition, texte):

@@ -67,7 +67,7 @@ def ok(w):
 def entendu(w, n, attendu, quoi):
     """Waits for the message line to announce `attendu` (its last announcement since n); the
     label must then read it too."""
-    attendre_egal(lambda: w.paroles[n:][-1:], [attendu], "message announced " + quoi)
+    attendre_egal(lambda: w.paroles[n:][-1:], [attendu.strip()], "message announced " + quoi)
     egal(w.message(), attendu, "message line's text " + quoi)
 
 
@@ -116,7 +116,7 @@ def test(lex, lex_headless, racine):
          ["abricot", "banane", "cerise", INDEX + " ajout\u00e9", "\u00e9t\u00e9", "z\u00e8bre"], "the index after OK")
     attendre_egal(lambda: boutons_visibles(w), ["D\u00e9finition", "Liste", "Quitter"], "buttons in the index after OK")
     pump(0.2)  # a later message would take the place of the one heard
-    egal(w.paroles[-1], " " + INDEX + " ajout\u00e9", "last message after OK")
+    egal(w.paroles[-1], INDEX + " ajout\u00e9", "last message after OK")
     attendu = ARTICLES[:3] + [[INDEX, DEFINITION]] + ARTICLES[3:]
     attendre_egal(lambda: os.path.exists(copie) and lire(copie), octets(attendu), "the working copy after OK")
 

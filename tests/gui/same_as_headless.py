@@ -2,7 +2,7 @@
 every key, the same messages in the same order, the same caret line and column, the same title."""
 import sys
 
-from lexgui import Echec, Fenetre, attendre, dossier_programme, egal, headless, principal, pump
+from lexgui import Echec, Fenetre, attendre, dossier_programme, egal, entendus, headless, principal, pump
 
 # The list, call letters (É is not E there), opening; moves the field makes itself; following a word of an
 # article and coming back; typed beginnings; the long article; menu shortcuts; marks heard at
@@ -46,6 +46,7 @@ def test(lex, lex_headless, racine):
     egal(w.message(), messages[-1], "message line at start")
     egal((curseur(w), w.titre()), (caret, titre), "caret and title at start")
     for nom, (messages, caret, titre) in zip(SCENARIO, etapes[1:]):
+        messages = entendus(messages)
         n = len(w.paroles)
         w.touche(*XDOTOOL.get(nom, nom.replace("Ctrl+", "ctrl+")).split())
         attendre(lambda: len(w.paroles) >= n + len(messages) and curseur(w) == caret and w.titre() == titre,

@@ -6,7 +6,7 @@ start. The screen font is the field's, the pane's and the message line's alike."
 import os
 import sys
 
-from lexgui import (ARTICLES, Fenetre, a_le_focus, attendre, attendre_egal, descendants, dossier_programme, egal,
+from lexgui import (ARTICLES, Fenetre, a_le_focus, attendre, attendre_egal, descendants, dossier_programme, egal, entendus,
                     ecrire_ansi, headless, ligne_longue, lire_ansi, montre, police, principal, role, verifie)
 
 
@@ -81,13 +81,13 @@ def test(lex, lex_headless, racine):
     # Menu shortcuts are commands even where the field has a binding of its own (Ctrl+A).
     n = len(w.paroles)
     w.touche("ctrl+a")
-    w.attendre_paroles(n + len(attendu[1]), "Ctrl+A")
-    egal(w.paroles[n:], attendu[1], "messages of Ctrl+A")
+    w.attendre_paroles(n + len(entendus(attendu[1])), "Ctrl+A")
+    egal(w.paroles[n:], entendus(attendu[1]), "messages of Ctrl+A")
     egal(w.txt.queryText().getNSelections(), 0, "selections in txt after Ctrl+A")
     n = len(w.paroles)
     w.touche("ctrl+b")
-    w.attendre_paroles(n + len(attendu[2]), "Ctrl+B")
-    egal(w.paroles[n:], attendu[2], "messages of Ctrl+B")
+    w.attendre_paroles(n + len(entendus(attendu[2])), "Ctrl+B")
+    egal(w.paroles[n:], entendus(attendu[2]), "messages of Ctrl+B")
     # The notepad is typed in, an accent before its letter included; Escape leaves the file
     # as it was.
     w.touche("dead_acute", "e", "space")
@@ -124,16 +124,16 @@ def test(lex, lex_headless, racine):
     w.touche("Return")
     w.dialogue("Voulez vous modifier la police de l'\u00e9cran")
     w.touche("Return")  # Yes
-    d = w.dialogue("Size")
+    d = w.dialogue("Taille")
     w.focaliser_dialogue()
     champ_taille = next(c for c in descendants(d) if role(c) == "spin button")
-    choisir = next(c for c in descendants(d) if role(c) == "push button" and c.name == "Select")
+    choisir = next(c for c in descendants(d) if role(c) == "push button" and c.name == "S\u00e9lectionner")
     w.touche("Tab", "Tab", "Tab", "Tab")  # past the search, the list of faces, the preview, the slider
     attendre(lambda: a_le_focus(champ_taille), "the focus on the size field")
     egal(champ_taille.queryValue().currentValue, taille, "size proposed by the font dialog")
     nouvelle = (famille, taille + 4)
     w.touche("ctrl+a", *str(int(nouvelle[1])), "Tab", "Tab")
-    attendre(lambda: a_le_focus(choisir), "the focus on the Select button")
+    attendre(lambda: a_le_focus(choisir), "the focus on the button S\u00e9lectionner")
     egal(champ_taille.queryValue().currentValue, nouvelle[1], "size typed in the font dialog")
     w.touche("Return")
     w.refocaliser()

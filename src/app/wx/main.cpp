@@ -5,18 +5,23 @@
 
 #include <cstdio>
 #include <cstdlib>
+#include <string>
 
+#include "app/wx/language.h"
 #include "app/wx/main_frame.h"
 
 namespace {
 
 bool demarre = false;  // the toolkit came up and the program was started
+std::string langue;    // of the toolkit's own texts, chosen before it starts
 
 class LexApp final : public wxApp {
  public:
   bool OnInit() override {
     // The program takes no command-line options, so wxApp's own parsing is not called.
     demarre = true;
+    if (langue.empty()) langue = lex::wx::ChoisitLangue();
+    lex::wx::ChargeTraductions(langue);
     // The program folder is the executable's: the guide, the dictionaries and the
     // configuration live next to it.
     const wxFileName exe(wxStandardPaths::Get().GetExecutablePath());
@@ -42,6 +47,7 @@ int main(int argc, char** argv) {
                "LEX needs a desktop session.\n", stderr);
     return 1;
   }
+  langue = lex::wx::ChoisitLangue();
   const int code = wxEntry(argc, argv);
   if (!demarre) std::fputs("lex: the graphical display could not be opened.\n", stderr);
   return code;

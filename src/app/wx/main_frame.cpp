@@ -6,6 +6,7 @@
 #include <gdk/gdk.h>
 #endif
 
+#include "app/wx/menu_keys.h"
 #include "controller/menus.h"
 #include "view/keys.h"
 
@@ -105,6 +106,7 @@ Form1::Form1()
   CmdDivers->Bind(wxEVT_BUTTON, [this](wxCommandEvent&) { EvBouton(*form_, Bouton::CmdDivers); });
   CmdQuitter->Bind(wxEVT_BUTTON, [this](wxCommandEvent&) { EvBouton(*form_, Bouton::CmdQuitter); });
   Bind(wxEVT_CLOSE_WINDOW, &Form1::Fermeture, this);
+  OuvreMenusParAlt(this);
 }
 
 wxMenuBar* Form1::CreeMenus() {

@@ -33,10 +33,6 @@ wxFont PoliceWx(const Police& p) {
   return wxFont(info);
 }
 
-#ifdef __WXGTK__
-AtkObject* Accessible(wxWindow* w) { return gtk_widget_get_accessible(GTK_WIDGET(w->GetHandle())); }
-#endif
-
 }  // namespace
 
 void ChampTexte::SetTexte(const std::string& ansi) {
@@ -84,12 +80,7 @@ void ChampTexte::SetPolice(const wxFont& police) {
   SetSelection(s.debut, s.longueur);
 }
 
-WxWindow::WxWindow(const Controles& c) : c_(c), txt_(c.txt), rtb_(c.rtb) {
-#ifdef __WXGTK__
-  // Orca speaks a label's change only for a notification, and only when told it is shown.
-  atk_object_set_role(Accessible(c_.message), ATK_ROLE_NOTIFICATION);
-#endif
-}
+WxWindow::WxWindow(const Controles& c) : c_(c), txt_(c.txt), rtb_(c.rtb), parle_(c.form) {}
 
 void WxWindow::SetFont(const Police& p) {
   const wxFont police = PoliceWx(p);
@@ -109,13 +100,29 @@ void WxWindow::SetPaneVisible(bool visible) {
 
 void WxWindow::SetMessage(const std::string& t) {
   c_.message->SetLabelText(VersWx(t));
-#ifdef __WXGTK__
-  atk_object_notify_state_change(Accessible(c_.message), ATK_STATE_SHOWING, TRUE);
-#endif
+  parle_.Annonce(VersWx(t));
 }
 
 void WxWindow::SetButtonCaption(Bouton b, const std::string& t) {
-  c_.boutons[Rang(b)]->SetLabel(VersWx(t));
+  wxButton* bouton = c_.boutons[Rang(b)];
+  std::optional<wxString>& attente = legendes_[Rang(b)];
+  // A screen reader speaks the new name of the control it is on: a button pressed from the
+  // keyboard would be heard changing its caption ("OK", then "Définition") before the focus goes
+  // back to the field. The caption changes once the command is over and the focus has left.
+  if (bouton->HasFocus()) {
+    if (!attente) {
+      bouton->CallAfter([this, bouton, &attente] {
+        if (!attente) return;
+        bouton->SetLabel(*attente);
+        attente.reset();
+        c_.panneau->Layout();
+      });
+    }
+    attente = VersWx(t);
+    return;
+  }
+  attente.reset();
+  bouton->SetLabel(VersWx(t));
   c_.panneau->Layout();
 }
 

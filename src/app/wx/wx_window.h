@@ -5,8 +5,10 @@
 #include <wx/wx.h>
 
 #include <array>
+#include <optional>
 #include <string>
 
+#include "app/wx/spoken_message.h"
 #include "view/dialogs.h"
 #include "view/window.h"
 
@@ -102,6 +104,8 @@ class WxWindow final : public Fenetre, public Dialogues {
 
   Controles c_;
   ChampTexte txt_, rtb_;
+  MessageParle parle_;
+  std::array<std::optional<wxString>, 3> legendes_;  // captions waiting for the focus to leave
   bool quit_ = false;
 };
 
