@@ -11,11 +11,10 @@
 namespace lex {
 namespace {
 
-constexpr const char* kTitre = "Dictionnaires";
 
-void Boite(PartiesGestion& p, const std::string& texte) { p.dialogues.MessageBox(texte, Boutons::OK, Icone::Exclamation, kTitre); }
+void Boite(PartiesGestion& p, const std::string& texte) { p.dialogues.MessageBox(texte, Boutons::OK, Icone::Exclamation, kTitreBoites); }
 bool Oui(PartiesGestion& p, const std::string& question) {
-  return p.dialogues.MessageBox(question, Boutons::YesNo, Icone::Question, kTitre) == Reponse::Yes;
+  return p.dialogues.MessageBox(question, Boutons::YesNo, Icone::Question, kTitreBoites) == Reponse::Yes;
 }
 
 // The list shown, or nothing: these commands work on its rows.
@@ -51,7 +50,7 @@ bool FichierPris(PartiesGestion& p, const std::string& nom, const std::string& s
 }
 
 std::optional<std::string> DemandeNom(PartiesGestion& p, const char* invite, const std::string& defaut, int propre) {
-  const std::string reponse = p.dialogues.InputBox(invite, kTitre, defaut);
+  const std::string reponse = p.dialogues.InputBox(invite, kTitreBoites, defaut);
   if (reponse.empty()) return std::nullopt;
   const std::string nom = SansBlancs(reponse);
   if (const std::string refus = RefusNom(p.catalogue, nom, propre); !refus.empty()) {
@@ -63,7 +62,7 @@ std::optional<std::string> DemandeNom(PartiesGestion& p, const char* invite, con
 
 std::optional<std::string> DemandeSuffixe(PartiesGestion& p, const char* invite, std::string defaut) {
   for (;;) {
-    const std::string reponse = p.dialogues.InputBox(invite, kTitre, defaut);
+    const std::string reponse = p.dialogues.InputBox(invite, kTitreBoites, defaut);
     if (reponse.empty()) return std::nullopt;
     if (reponse.size() != 3) {
       Boite(p, "3 lettres obligatoire");
@@ -83,7 +82,7 @@ std::optional<std::string> DemandeLettre(PartiesGestion& p, const char* invite, 
   std::string utilisees = LettresUtilisees(p.catalogue);
   if (const auto i = utilisees.find(propre); propre != " " && i != std::string::npos) utilisees.erase(i, 1);
   for (;;) {
-    const std::string reponse = p.dialogues.InputBox(invite + utilisees, kTitre, propre == " " ? "" : propre);
+    const std::string reponse = p.dialogues.InputBox(invite + utilisees, kTitreBoites, propre == " " ? "" : propre);
     if (reponse.empty()) return std::nullopt;
     if (reponse.size() >= 2) {
       Boite(p, "une seule lettre \xE0 entrer");

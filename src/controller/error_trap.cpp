@@ -23,8 +23,8 @@ bool RunTrapped(Fenetre& ui, Dialogues& dlg, bool& termine, const std::function<
   const RapportErreur r = PrendRapport().value_or(RapportErreur{});
   termine = true;
   dlg.MessageBox(std::to_string(numero) + LexError::Texte(numero) + r.label, Boutons::OK, Icone::Critique,
-                "Dictionnaires");
-  if (!r.diagnostic.empty()) dlg.MessageBox(r.diagnostic, Boutons::OK, Icone::Critique, "Dictionnaires");
+                kTitreBoites);
+  if (!r.diagnostic.empty()) dlg.MessageBox(r.diagnostic, Boutons::OK, Icone::Critique, kTitreBoites);
   ui.Quit();
   return false;
 }

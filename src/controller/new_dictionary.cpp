@@ -38,7 +38,7 @@ void SauveCreationDictio(Form& f) {
   const std::string fichier = NomDictionnaire(f.catalogue, f.reglages.DossierDictio, d);
   // Written elsewhere meanwhile: the user's file is not replaced.
   if (FichierExistant(fichier)) {
-    f.dlg.MessageBox("fichier d\xE9ja existant", Boutons::OK, Icone::Exclamation, "Dictionnaires");
+    f.dlg.MessageBox("fichier d\xE9ja existant", Boutons::OK, Icone::Exclamation, kTitreBoites);
     return;
   }
   EcrireLignesSur(fichier, lignes, Donnees::Utilisateur);

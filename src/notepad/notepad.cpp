@@ -8,14 +8,13 @@
 namespace lex {
 namespace {
 
-constexpr const char* kTitre = "Dictionnaires";
 
 // The notepad written, after its backup; a notepad that would lose what it holds is not.
 void Ecrit(PartiesBlocNote& p) {
   if (!p.bloc.lectureSeule.empty()) {
     p.dialogues.MessageBox("Le bloc note " + CheminAffiche(p.bloc.fichier) + " n'est pas enregistr\xE9 : " +
                                p.bloc.lectureSeule + ".",
-                           Boutons::OK, Icone::Exclamation, kTitre);
+                           Boutons::OK, Icone::Exclamation, kTitreBoites);
     return;
   }
   sauvebakBlocNote(p.bloc);
@@ -37,11 +36,11 @@ void blocnote(PartiesBlocNote& p) {
     const auto dossier = CheminNatif(fichier).parent_path();
     if (!dossier.empty() && !std::filesystem::is_directory(dossier, ec)) {
       p.dialogues.MessageBox("Le dossier du bloc note " + CheminAffiche(fichier) + " n'existe pas.", Boutons::OK,
-                             Icone::Exclamation, kTitre);
+                             Icone::Exclamation, kTitreBoites);
       return;
     }
     if (p.dialogues.MessageBox("Le fichier " + CheminAffiche(fichier) + " n'existe pas. Cr\xE9" "er le bloc note",
-                               Boutons::YesNo, Icone::Question, kTitre) != Reponse::Yes)
+                               Boutons::YesNo, Icone::Question, kTitreBoites) != Reponse::Yes)
       return;
   }
   p.bloc = LireBlocNote(fichier);
@@ -49,14 +48,14 @@ void blocnote(PartiesBlocNote& p) {
   if (!p.bloc.lectureSeule.empty())
     p.dialogues.MessageBox("Le bloc note " + CheminAffiche(fichier) + " se lit sans pouvoir \xEAtre enregistr\xE9 : " +
                                p.bloc.lectureSeule + ".",
-                           Boutons::OK, Icone::Exclamation, kTitre);
+                           Boutons::OK, Icone::Exclamation, kTitreBoites);
 }
 
 void SauveBlocNote(PartiesBlocNote& p) {
   ErrorTrap trap(" sur SauveBlocNote");
   p.ecran.GardePage();
   if (p.bloc.modifie &&
-      p.dialogues.MessageBox("Sauvegarder le bloc note", Boutons::YesNo, Icone::Question, kTitre) == Reponse::Yes)
+      p.dialogues.MessageBox("Sauvegarder le bloc note", Boutons::YesNo, Icone::Question, kTitreBoites) == Reponse::Yes)
     Ecrit(p);
   p.ecran.QuitteBlocNote();
 }
@@ -70,7 +69,7 @@ void EnregistreBlocNote(PartiesBlocNote& p) {
 bool QuitteAvecBlocNote(PartiesBlocNote& p) {
   p.ecran.GardePage();
   if (!p.bloc.modifie || !p.bloc.lectureSeule.empty()) return true;
-  switch (p.dialogues.MessageBox("Sauvegarder le bloc note", Boutons::YesNoCancel, Icone::Question, kTitre)) {
+  switch (p.dialogues.MessageBox("Sauvegarder le bloc note", Boutons::YesNoCancel, Icone::Question, kTitreBoites)) {
     case Reponse::Yes: Ecrit(p); return !p.bloc.modifie;
     case Reponse::No: return true;
     default: return false;

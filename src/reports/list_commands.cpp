@@ -15,7 +15,7 @@ namespace {
 const std::string& NomOuvert(const PartiesRapports& p) { return p.catalogue[p.dictioCourant].NomDictio; }
 
 void Absent(PartiesRapports& p, const std::string& nom) {
-  p.dialogues.MessageBox("dictionnaire " + nom + " absent", Boutons::OK, Icone::Exclamation, "Dictionnaires");
+  p.dialogues.MessageBox("dictionnaire " + nom + " absent", Boutons::OK, Icone::Exclamation, kTitreBoites);
 }
 
 // The result list in place of the index, and how many entries it holds.

@@ -14,7 +14,7 @@ void mnuRechercheAvant(PartiesRecherche& p) {
   ErrorTrap trap(" sur RechercheAvant_Click");
   EtatRecherche& r = p.etat;
   const std::string reponse = p.dialogues.InputBox(
-      r.RespectCasse ? "Recherche avec respect de la casse" : "Recherche", "Dictionnaires", r.ChaineRecherche);
+      r.RespectCasse ? "Recherche avec respect de la casse" : "Recherche", kTitreBoites, r.ChaineRecherche);
   if (reponse.empty()) return;
   r.RechercheDansIndex = false;
   r.ChaineRecherche = reponse;

@@ -36,12 +36,12 @@ void mnuRechercheindex(PartiesRecherche& p) {
   ErrorTrap trap(" sur RechercheIndex_click");
   const Mode m = p.ecran.mode();
   if (SurLeCatalogue(m)) {
-    const std::string reponse = p.dialogues.InputBox("Dictionnaire", "Dictionnaires", "");
+    const std::string reponse = p.dialogues.InputBox("Dictionnaire", kTitreBoites, "");
     if (!reponse.empty()) p.ecran.ChercheDebut(Sansaccent(reponse));
     return;
   }
   if (!DansUnDictionnaire(m)) return;
-  const std::string reponse = p.dialogues.InputBox("D\xE9" "but de l'index", "Dictionnaires", "");
+  const std::string reponse = p.dialogues.InputBox("D\xE9" "but de l'index", kTitreBoites, "");
   if (reponse.empty()) return;
   const std::string plie = Sansaccent(reponse);
   if (plie.empty()) {
@@ -60,7 +60,7 @@ void mnuRechercheDansIndex(PartiesRecherche& p) {
     return;
   }
   const std::string reponse = p.dialogues.InputBox(
-      r.RespectCasse ? "Chaine avec respect de la casse dans index" : "Chaine dans index", "Dictionnaires",
+      r.RespectCasse ? "Chaine avec respect de la casse dans index" : "Chaine dans index", kTitreBoites,
       r.ChaineRecherche);
   if (reponse.empty()) return;
   r.ChaineRecherche = reponse;

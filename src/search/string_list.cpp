@@ -15,7 +15,7 @@ void mnuRechercheChaine(PartiesRecherche& p) {
   const std::string reponse =
       p.dialogues.InputBox(r.RespectCasse ? "Liste des index contenant la chaine avec respect de la casse"
                                           : "Liste des index contenant la chaine",
-                           "Dictionnaires", r.ChaineRecherche);
+                           kTitreBoites, r.ChaineRecherche);
   if (reponse.empty()) return;
   r.RechercheDansIndex = false;
   if (!DansUnDictionnaire(p.ecran.mode())) {

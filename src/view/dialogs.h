@@ -11,6 +11,10 @@ enum class Boutons { OK, OKCancel, YesNo, YesNoCancel };
 enum class Icone { Aucune, Question, Exclamation, Information, Critique };
 enum class Reponse { OK, Cancel, Yes, No };
 
+// The title of the program's message and input boxes: the name the window itself bears over
+// the list of dictionaries, so that the user hears one name for the program.
+inline constexpr const char* kTitreBoites = "LEX";
+
 class Dialogues {
  public:
   virtual ~Dialogues() = default;
