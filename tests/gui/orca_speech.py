@@ -33,8 +33,9 @@ def speech_dispatcher(racine):
     return p
 
 
-def orca(racine, journal):
-    """Orca, speaking but echoing no keys and showing no braille, logging line by line."""
+def orca(racine, journal, langue=None):
+    """Orca, speaking but echoing no keys and showing no braille, logging line by line; in the
+    language given (a LANGUAGE value) rather than the session's."""
     prefs = os.path.join(racine, "orca-prefs")
     os.makedirs(prefs)
     reglages = {"enableKeyEcho": False, "enableEchoByCharacter": False, "enableEchoByWord": False,
@@ -52,6 +53,8 @@ def orca(racine, journal):
         f.write(source.replace("open(args.debug_file, 'w')", "open(args.debug_file, 'w', buffering=1)"))
     env = dict(os.environ)
     env.pop("PYTHONPATH", None)  # the tests' folder would hide Orca's own modules
+    if langue:
+        env["LANGUAGE"] = langue
     return subprocess.Popen(["/usr/bin/python3", copie, "-u", prefs, "--debug-file", journal], env=env,
                             stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
 
@@ -74,7 +77,7 @@ def pret(o, journal):
     def ecoute():
         if o.poll() is not None:
             raise Echec("Orca ended at start with status %d" % o.returncode)
-        return any("Screen reader on" in p for p in paroles(journal)) and \
+        return any(p.startswith(("Screen reader on", "Lecteur d")) for p in paroles(journal)) and \
             any(a is not None and a.name == "orca" for a in pyatspi.Registry.getDesktop(0))
     attendre(ecoute, "Orca to start", DEMARRAGE_ORCA)
 

@@ -14,7 +14,7 @@ PYTHON = "/usr/bin/python3"  # Debian's, which sees python3-pyatspi
 
 def main():
     nom, lex, lex_headless = sys.argv[1:4]
-    outils = ["xvfb-run", "dbus-run-session", "xdotool"] + (["orca", "speech-dispatcher"] if nom == "orca_speech" else [])
+    outils = ["xvfb-run", "dbus-run-session", "xdotool"] + (["orca", "speech-dispatcher"] if nom in ("orca_speech", "first_use") else [])
     manque = [o for o in outils if shutil.which(o) is None]
     if manque or subprocess.run([PYTHON, "-c", "import pyatspi"], capture_output=True).returncode != 0:
         print("SKIPPED: %s missing (scripts/install-deps.sh test installs them)" % (", ".join(manque) or "pyatspi"))

@@ -41,6 +41,15 @@ int CodeTouche(int k) {
   return 0;
 }
 
+// The keys after which screen readers read the line the caret is on.
+bool LitLaLigne(int code, int modificateurs) {
+  switch (code) {
+    case Touche::Haut: case Touche::Bas: case Touche::PagePrec: case Touche::PageSuiv: return modificateurs == 0;
+    case Touche::Debut: case Touche::Fin: return modificateurs == kCtrl;
+    default: return false;
+  }
+}
+
 int Modificateurs(const wxKeyEvent& e) {
   return (e.ShiftDown() ? kShift : 0) | (e.ControlDown() ? kCtrl : 0) | (e.AltDown() ? kAlt : 0);
 }
@@ -144,13 +153,18 @@ void Form1::ToucheBas(wxKeyEvent& e, Champ champ) {
   const bool accentue = mortes_.Attend() && c != 0;
   if (accentue) c = mortes_.Compose(c);
   else if (c == 0 && code != 16 && code != 17 && code != 18) mortes_.Oublie();
+  ui_->DebutTouche(LitLaLigne(code, modificateurs));
   const SuiteTouche suite = RouteTouche(*form_, champ, code, modificateurs, c);
+  ui_->FinTouche();
   if (!suite.auChamp) return;
   // The input method never saw the accent: the field takes the composed letter from here.
   if (accentue && suite.caractere) (champ == Champ::Rtb ? rtb_ : txt_)->WriteText(wxString(wxUniChar(suite.caractere)));
   else e.Skip();
 #else
-  if (!lex::ToucheBas(*form_, champ, code, Modificateurs(e))) e.Skip();
+  ui_->DebutTouche(LitLaLigne(code, Modificateurs(e)));
+  const bool pris = lex::ToucheBas(*form_, champ, code, Modificateurs(e));
+  ui_->FinTouche();
+  if (!pris) e.Skip();
 #endif
 }
 

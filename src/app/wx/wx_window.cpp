@@ -12,6 +12,7 @@
 #endif
 
 #include <algorithm>
+#include <string_view>
 
 #include "app/wx/text_mapping.h"
 #include "base/encoding.h"
@@ -36,6 +37,7 @@ wxFont PoliceWx(const Police& p) {
 }  // namespace
 
 void ChampTexte::SetTexte(const std::string& ansi) {
+  ++version_;
   texte_ = ansi;
   connu_ = true;
   remplace_ = false;
@@ -100,7 +102,35 @@ void WxWindow::SetPaneVisible(bool visible) {
 
 void WxWindow::SetMessage(const std::string& t) {
   c_.message->SetLabelText(VersWx(t));
-  parle_.Annonce(VersWx(t));
+  if (!LigneDejaLue(t)) parle_.Annonce(VersWx(t));
+}
+
+void WxWindow::DebutTouche(bool litLaLigne) {
+  touche_.reset();
+  if (!litLaLigne) return;
+  wxWindow* focus = wxWindow::FindFocus();
+  ChampTexte* champ = focus == c_.txt ? &txt_ : focus == c_.rtb ? &rtb_ : nullptr;
+  if (champ) touche_ = Touche{champ, champ->Version(), champ->GetSelection().debut};
+}
+
+bool WxWindow::LigneDejaLue(const std::string& message) const {
+  if (!touche_) return false;
+  const ChampTexte& champ = *touche_->champ;
+  const std::size_t curseur = champ.GetSelection().debut;
+  // Neither the text nor the caret moved: the screen reader has nothing to read by itself.
+  if (champ.Version() == touche_->version && curseur == touche_->curseur) return false;
+  const std::string& texte = champ.Texte();
+  const std::size_t debut = texte.rfind('\n', curseur == 0 ? 0 : curseur - 1);
+  const std::size_t d = curseur == 0 || debut == std::string::npos ? 0 : debut + 1;
+  std::size_t f = texte.find_first_of("\r\n", d);
+  if (f == std::string::npos) f = texte.size();
+  auto sansBlancs = [](std::string_view v) {
+    const std::size_t a = v.find_first_not_of(' ');
+    if (a == std::string_view::npos) return std::string_view();
+    return v.substr(a, v.find_last_not_of(' ') - a + 1);
+  };
+  const std::string_view ligne = sansBlancs(std::string_view(texte).substr(d, f - d));
+  return !ligne.empty() && ligne == sansBlancs(message);
 }
 
 void WxWindow::SetButtonCaption(Bouton b, const std::string& t) {

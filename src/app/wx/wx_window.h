@@ -31,6 +31,8 @@ class ChampTexte {
   wxTextCtrl* Controle() const { return ctrl_; }
   void Modifie() { connu_ = false; }
   void SetTexte(const std::string& ansi);
+  // Counts the texts set, so that a replaced text can be told from the same one.
+  unsigned Version() const { return version_; }
   const std::string& Texte() const;
   // The user typed characters that the program's text cannot hold.
   bool Remplace() const {
@@ -46,6 +48,7 @@ class ChampTexte {
   mutable std::string texte_;
   mutable bool connu_ = true;
   mutable bool remplace_ = false;
+  unsigned version_ = 0;
 };
 
 struct Controles {
@@ -63,6 +66,12 @@ class WxWindow final : public Fenetre, public Dialogues {
   explicit WxWindow(const Controles& c);
 
   ChampTexte& ChampDe(wxTextCtrl* c) { return c == rtb_.Controle() ? rtb_ : txt_; }
+
+  // Around a key that screen readers answer by reading the line the caret lands on (the
+  // arrows up and down, the pages, Ctrl+Home and Ctrl+End): a message that only says that line
+  // again is shown but not announced, or the user hears every page turn twice.
+  void DebutTouche(bool litLaLigne);
+  void FinTouche() { touche_.reset(); }
   bool QuitDemande() const { return quit_; }
 
   void SetLineText(const std::string& t) override { txt_.SetTexte(t); }
@@ -105,6 +114,14 @@ class WxWindow final : public Fenetre, public Dialogues {
   Controles c_;
   ChampTexte txt_, rtb_;
   MessageParle parle_;
+  // The focused field, its text and its caret when a line-reading key came.
+  struct Touche {
+    ChampTexte* champ;
+    unsigned version;
+    std::size_t curseur;
+  };
+  std::optional<Touche> touche_;
+  bool LigneDejaLue(const std::string& message) const;
   std::array<std::optional<wxString>, 3> legendes_;  // captions waiting for the focus to leave
   bool quit_ = false;
 };
