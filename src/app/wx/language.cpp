@@ -51,16 +51,18 @@ bool ToolkitParle(const std::string& langue) {
 std::string ChoisitLangue() {
   std::string langue = LangueUtilisateur();
 #ifdef __WXGTK__
-  // wx keeps GTK from setting the locale; only the language of messages is taken from the
-  // environment, the rest (numbers above all) stays the C library's default.
   if (langue == "fr" || (!langue.empty() && langue != "en" && ToolkitParle(langue))) {
-    std::setlocale(LC_MESSAGES, "");
-    return langue;
+    const char* liste = std::getenv("LANGUAGE");
+    if (!liste || !*liste) setenv("LANGUAGE", langue.c_str(), 1);
+  } else {
+    langue = "fr";
+    setenv("LANGUAGE", "fr_FR:fr", 1);
   }
-  langue = "fr";
-  setenv("LANGUAGE", "fr_FR:fr", 1);
-  // GNU gettext ignores LANGUAGE under the "C" locale, which is what a session without any
-  // locale gets; "C.UTF-8" is the same locale for everything else and always present.
+  // wx keeps GTK from setting the locale: only the language of messages is taken from the
+  // environment, the rest (numbers above all) stays the C library's default. GNU gettext
+  // ignores LANGUAGE under the "C" locale, which is what a session without any locale gets, or
+  // one whose locale was never generated; "C.UTF-8" is the same locale otherwise, and always
+  // present.
   const char* messages = std::setlocale(LC_MESSAGES, "");
   if (!messages || Langue(messages).empty()) {
     setenv("LC_ALL", "C.UTF-8", 1);
