@@ -4,6 +4,8 @@
 //   => FRAGMENT              a later event line contains FRAGMENT (matched in order)
 //   =/> FRAGMENT             no event line up to the next match contains FRAGMENT
 //   => file NAME: LINE       after the run, file NAME (Windows-1252) has a line equal to LINE
+//   @restart                 the program ends there and lex-headless starts again on the same
+//                            folder with the commands that follow, as a user starting it anew
 // Any other line is a command for lex-headless, which must end with status 0.
 #include <unistd.h>
 #include <sys/wait.h>
@@ -40,7 +42,8 @@ int main(int argc, char** argv) {
   std::vector<Attente> attentes;
   std::vector<std::pair<std::string, std::string>> fichiers;
   std::ifstream in(scenario, std::ios::binary);
-  std::string line, script;
+  std::string line;
+  std::vector<std::string> scripts(1);
   for (int numero = 1; std::getline(in, line); ++numero) {
     if (!line.empty() && line.back() == '\r') line.pop_back();
     const auto sp = line.find(' ', line.find(' ') + 1);  // after a directive's first argument
@@ -50,6 +53,8 @@ int main(int argc, char** argv) {
       std::string texte = sp == std::string::npos ? "" : line.substr(sp + 1);
       for (auto p = texte.find("\\n"); p != std::string::npos; p = texte.find("\\n", p + 2)) texte.replace(p, 2, "\r\n");
       std::ofstream(dans(line.substr(7, sp - 7)), std::ios::binary) << lex::Utf8VersAnsi(texte);
+    } else if (line == "@restart") {
+      scripts.emplace_back();
     } else if (line.rfind("=> file ", 0) == 0) {
       const auto c = line.find(": ", 8);
       fichiers.emplace_back(line.substr(8, c - 8), c == std::string::npos ? "" : line.substr(c + 2));
@@ -57,14 +62,18 @@ int main(int argc, char** argv) {
       const bool absent = line[1] == '/';
       attentes.push_back({absent, line.substr(absent ? 4 : 3), numero});
     } else {
-      script += line + "\n";
+      scripts.back() += line + "\n";
     }
   }
-  const fs::path scriptFile = dir / "scenario.script", events = dir / "events";
-  std::ofstream(scriptFile, std::ios::binary) << script;
-  const int status = std::system(("\"" + exe.string() + "\" --dir \"" + dir.string() + "\" \"" + scriptFile.string() +
-                                  "\" > \"" + events.string() + "\"").c_str());
-  const int code = WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+  const fs::path events = dir / "events";
+  int code = 0;
+  for (std::size_t i = 0; i < scripts.size() && code == 0; ++i) {
+    const fs::path scriptFile = dir / ("scenario" + std::to_string(i) + ".script");
+    std::ofstream(scriptFile, std::ios::binary) << scripts[i];
+    const int status = std::system(("\"" + exe.string() + "\" --dir \"" + dir.string() + "\" \"" + scriptFile.string() +
+                                    "\" " + (i == 0 ? ">" : ">>") + " \"" + events.string() + "\"").c_str());
+    code = WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+  }
   std::vector<std::string> sortie;
   std::ifstream ev(events, std::ios::binary);
   for (std::string l; std::getline(ev, l);) sortie.push_back(l);

@@ -10,6 +10,7 @@
 #include "controller/new_dictionary.h"
 #include "controller/opening.h"
 #include "controller/paging.h"
+#include "controller/place.h"
 #include "controller/startup.h"
 #include "editing/commands.h"
 
@@ -32,7 +33,10 @@ void RetourIndex(Form& f) {
   EtatFenetre& w = f.fenetre;
   message(f, " ");
   switch (w.ModeCourant()) {
-    case Mode::Aide: EntrerListeDictio(f); break;
+    case Mode::Aide:
+      // F1 gave the guide over what the user was doing; the menu's guide gives way to the list.
+      if (!RetourDuGuide(f)) EntrerListeDictio(f);
+      break;
     case Mode::ListeHistoire:
       // Escape in the history list goes back to the main list, on the row "Histoire".
       w.ListeHistoire = false;
@@ -51,7 +55,7 @@ void RetourIndex(Form& f) {
       break;
     }
     case Mode::Index:
-      if (f.liste.Nombre() > 0) f.catalogue[w.DictioCourant].PositionDictio = IndexAbsolu(f);
+      GardePosition(f);
       EntrerListeDictio(f);
       break;
     case Mode::Article:

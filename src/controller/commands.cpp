@@ -9,6 +9,7 @@
 #include "controller/navigation.h"
 #include "controller/new_dictionary.h"
 #include "controller/options.h"
+#include "controller/place.h"
 #include "controller/startup.h"
 #include "editing/commands.h"
 #include "notepad/notepad.h"
@@ -28,7 +29,7 @@ void InscrireCommandes(Form& f) {
   r.Inscrire(MenuId::mnuApropos, [&f] { mnuApropos_Click(f); });
   // Ctrl+S keeps what the user is working on: the notepad, or the dictionary.
   r.Inscrire(MenuId::mnuEnregistrer, [&f] {
-    if (f.fenetre.ModeCourant() == Mode::BlocNote) {
+    if (BlocNoteEnCours(f)) {
       PartiesBlocNote p = f.PartiesNote();
       EnregistreBlocNote(p);
     } else {
@@ -70,13 +71,19 @@ bool PermiseEnSaisie(MenuId id) {
 
 }  // namespace
 
+void TerminezDAbordLaSaisie(Form& f) {
+  f.ui.Beep();
+  message(f, "terminez d'abord la saisie : OK ou Annuler");
+}
+
 void ExecuteMenu(Form& f, MenuId id) {
   const Mode m = f.fenetre.ModeCourant();
   const Commande* c = f.commandes.Trouve(id);
-  if ((SaisieArticle(m) || m == Mode::CreationDictio) && !PermiseEnSaisie(id)) {
-    f.ui.Beep();
-    message(f, "terminez d'abord la saisie : OK ou Annuler");
-  } else if (!c) message(f, "commande non disponible dans cette version");
+  if ((SaisieArticle(m) || m == Mode::CreationDictio) && !PermiseEnSaisie(id)) TerminezDAbordLaSaisie(f);
+  // The notepad under the guide is still being edited: reading it again from its file would
+  // lose what was typed.
+  else if (id == MenuId::mnuBlocNote && m == Mode::Aide && BlocNoteEnCours(f)) RetourDuGuide(f);
+  else if (!c) message(f, "commande non disponible dans cette version");
   else if (!c->actif || c->actif()) c->executer();
 }
 

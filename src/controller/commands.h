@@ -15,5 +15,7 @@ void ExecuteMenu(Form& f, MenuId id);
 // Whether the user may choose the entry now (the window greys the others).
 bool MenuActif(const Form& f, MenuId id);
 void ActiveMenu(Form& f, MenuId id, bool actif);
+// A command refused while an article or a new dictionary is typed: a beep, and how to end it.
+void TerminezDAbordLaSaisie(Form& f);
 
 }  // namespace lex

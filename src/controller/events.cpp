@@ -1,5 +1,7 @@
 #include "controller/events.h"
 
+#include <utility>
+
 #include "controller/buttons.h"
 #include "controller/commands.h"
 #include "controller/error_trap.h"
@@ -25,12 +27,12 @@ Issue Evenement(Form& f, const std::function<void()>& travail) {
     } catch (const ErreurEcriture& e) {
       OublieRapport();
       ecritureEchouee = true;
-      f.dlg.MessageBox(MessageErreurEcriture(e), Boutons::OK, Icone::Exclamation, "Dictionnaires");
+      f.dlg.MessageBox(MessageErreurEcriture(e), Boutons::OK, Icone::Exclamation, kTitreBoites);
     } catch (const LexError& e) {
       if (!DictionnaireDisparu(f, e)) throw;
       OublieRapport();
       f.dlg.MessageBox("Le dictionnaire " + CheminAffiche(f.dico.fichiers.dictio) + " est introuvable : retour \xE0 la liste.",
-                       Boutons::OK, Icone::Exclamation, "Dictionnaires");
+                       Boutons::OK, Icone::Exclamation, kTitreBoites);
       EntrerListeDictio(f);
     }
   });
@@ -60,6 +62,8 @@ void EvFermeture(Form& f) {
   // A configuration that could not be written keeps the window open: closing would lose the
   // user's catalogue. The next close tries again.
   if (Evenement(f, [&] { quitter(f); }) == Issue::EcritureEchouee) return;
+  // The article being typed is kept when the user said so: the window stays.
+  if (std::exchange(f.fenetre.SaisieGardee, false)) return;
   // Cancel in quitter keeps the program only when asked from the menu or the button; the
   // close box closes the window anyway, without writing the configuration.
   if (!f.fenetre.Termine) {

@@ -7,7 +7,9 @@
 #include "controller/form.h"
 #include "controller/navigation.h"
 #include "controller/opening.h"
+#include "controller/limits.h"
 #include "controller/paragraphs.h"
+#include "controller/place.h"
 #include "view/keys.h"
 
 namespace lex {
@@ -15,8 +17,12 @@ namespace lex {
 bool txt_KeyDown(Form& f, int code, int shift) {
   const Mode m = f.fenetre.ModeCourant();
   const bool ctrl = (shift & kCtrl) != 0;
+  if (code == Touche::F1 && shift == 0) {
+    ToucheAide(f);
+    return true;
+  }
   // The guide and the about text are read with the field's own keys.
-  if (m == Mode::Aide) return code == Touche::Suppr;
+  if (m == Mode::Aide) return code == Touche::Suppr || ToucheAuBord(f, code, shift);
   switch (code) {
     case Touche::Espace:
       if (ctrl) {
@@ -26,23 +32,25 @@ bool txt_KeyDown(Form& f, int code, int shift) {
       return false;
     case Touche::Suppr: return m != Mode::BlocNote && m != Mode::CreationDictio && !SaisieArticle(m);
     case Touche::Haut:
-      if (!ctrl) return FlecheHaut(f);
+      if (!ctrl) return FlecheHaut(f) || ToucheAuBord(f, code, shift);
       if (!LectureParParagraphes(m)) return false;
       ParagraphePrecedent(f);
       return true;
     case Touche::Bas:
-      if (!ctrl) return FlecheBas(f);
+      if (!ctrl) return FlecheBas(f) || ToucheAuBord(f, code, shift);
       if (LectureParParagraphes(m)) ParagrapheSuivant(f);
       else ExecuteMenu(f, MenuId::MnuSelection);
       return true;
-    case Touche::PagePrec: return Indexprecedent(f);
-    case Touche::PageSuiv: return Indexsuivant(f);
+    case Touche::PagePrec: return Indexprecedent(f) || ToucheAuBord(f, code, shift);
+    case Touche::PageSuiv: return Indexsuivant(f) || ToucheAuBord(f, code, shift);
     case Touche::Debut:
       f.fenetre.DebutIndexCherche.clear();
-      return ctrl && AppelDebutIndex(f);
+      return (ctrl && AppelDebutIndex(f)) || ToucheAuBord(f, code, shift);
     case Touche::Fin:
       f.fenetre.DebutIndexCherche.clear();
-      return ctrl && AppelFinIndex(f);
+      return (ctrl && AppelFinIndex(f)) || ToucheAuBord(f, code, shift);
+    case Touche::Gauche:
+    case Touche::Droite: return ToucheAuBord(f, code, shift);
     case 'I':
       // In the index the letter I is a typed beginning like any other; in an article being
       // read it tells which entry it is.
@@ -61,12 +69,14 @@ bool txt_KeyPress(Form& f, char c) {
     RetourIndex(f);
     return true;
   }
-  if (m == Mode::Aide) return true;
+  // The guide is only read; Tab leaves it for its button, as it leaves any other text.
+  if (m == Mode::Aide) return c != '\t';
   // In the notepad and a new article every other character is typed.
   if (m == Mode::BlocNote || m == Mode::CreationDictio || SaisieArticle(m)) return false;
   if (c == 8) {
     if (SurUneListe(m)) BakSpaceIndex(f);
     else if (m == Mode::Article) RetourSuiteIndex(f);
+    else f.ui.Beep();  // a list of the catalogue keeps no typed letters to erase
     return true;
   }
   if (c == 13) {
@@ -82,10 +92,14 @@ bool txt_KeyPress(Form& f, char c) {
 }
 
 bool Rtb_KeyDown(Form& f, int code, int shift) {
-  if ((shift & kCtrl) == 0 || !LectureParParagraphes(f.fenetre.ModeCourant())) return false;
+  if (code == Touche::F1 && shift == 0) {
+    ToucheAide(f);
+    return true;
+  }
+  if ((shift & kCtrl) == 0 || !LectureParParagraphes(f.fenetre.ModeCourant())) return ToucheAuBord(f, code, shift);
   if (code == Touche::Haut) ParagraphePrecedent(f);
   else if (code == Touche::Bas) ParagrapheSuivant(f);
-  else return false;
+  else return ToucheAuBord(f, code, shift);
   return true;
 }
 

@@ -8,10 +8,18 @@
 #include "controller/line_helpers.h"
 #include "controller/message.h"
 #include "controller/paging.h"
+#include "controller/place.h"
 
 namespace lex {
 
-void PoseMode(EtatFenetre& w, Mode m) { w.mode_ = m; }
+void PoseMode(EtatFenetre& w, Mode m) {
+  w.mode_ = m;
+  // What the guide covered is given back from the guide only.
+  if (m != Mode::Aide) {
+    w.GuideAffiche = false;
+    w.AvantGuide = {};
+  }
+}
 
 namespace {
 
@@ -46,18 +54,19 @@ void OublieDebutTape(Form& f) {
   f.fenetre.DebutIndexTape.clear();
 }
 
-void EntrerListeDictio(Form& f) {
+void EntrerListeDictio(Form& f, std::int32_t ligne) {
   if (f.fenetre.ListeHistoire) {
-    EntrerListeHistoire(f);
+    EntrerListeHistoire(f, ligne);
     return;
   }
   EntrerCatalogue(f, Mode::ListeDictionnaires, TexteListeDictio(f.catalogue),
-                  LigneDeEntree(f.catalogue, f.fenetre.DictioCourant) + 2);
+                  ligne > 0 ? ligne : LigneDeEntree(f.catalogue, f.fenetre.DictioCourant) + 2);
 }
 
-void EntrerListeHistoire(Form& f) {
+void EntrerListeHistoire(Form& f, std::int32_t ligne) {
   f.fenetre.ListeHistoire = true;
-  EntrerCatalogue(f, Mode::ListeHistoire, TexteListeHistoire(f.catalogue), f.catalogue[9].PositionDictio + 2);
+  EntrerCatalogue(f, Mode::ListeHistoire, TexteListeHistoire(f.catalogue),
+                  ligne > 0 ? ligne : f.catalogue[9].PositionDictio + 2);
 }
 
 void EntrerChoixComparaison(Form& f) {
@@ -65,16 +74,20 @@ void EntrerChoixComparaison(Form& f) {
   Catalogue& c = f.catalogue;
   PlaceAvantChoix& avant = f.avantComparaison;
   avant = {};
-  if (f.liste.Nombre() > 0) {
-    avant.numero = f.liste.NumeroDictio(f.EntreeCourante());
+  if (const std::int32_t n = EntreeDuDictionnaire(f); n > 0) {
+    avant.numero = n;
     // A result list's page numbers are not the index's: its page starts on the entry.
-    avant.premier = f.liste.EstResultats() ? avant.numero : w.PremierIndexAffiche;
+    avant.premier = f.liste.EstResultats() ? n : w.PremierIndexAffiche;
   }
   // Leaving the program from the choice reopens the dictionary where the user was.
-  c[w.DictioCourant].PositionDictio = avant.numero;
+  GardePosition(f);
   const int d = w.DictioCourant;
   const int rang = d > 9 && d <= 9 + c.NombreHistoire ? 9 : LigneDeEntree(c, d);
-  EntrerCatalogue(f, Mode::ChoixComparaison, TexteListeDictio(c), rang + 2, "OK", "Annuler");
+  MontreChoixComparaison(f, rang + 2);
+}
+
+void MontreChoixComparaison(Form& f, std::int32_t ligne) {
+  EntrerCatalogue(f, Mode::ChoixComparaison, TexteListeDictio(f.catalogue), ligne, "OK", "Annuler");
 }
 
 void EntrerPage(Form& f, std::int32_t premier, Annonce annonce, std::int32_t ligne) {
@@ -117,23 +130,39 @@ void EntrerArticle(Form& f, std::int32_t numero, const std::string& article, std
   AfficheStatus(f);
 }
 
-void EntrerBlocNote(Form& f) {
+namespace {
+
+// The notepad's page starting at its line `premier`, typed in.
+void PageBlocNote(Form& f, std::int32_t premier) {
   EtatFenetre& w = f.fenetre;
-  const Mode avant = w.ModeCourant();
-  w.AvantSaisie = avant;
-  w.EntreeAvantSaisie = DansUnDictionnaire(avant) && f.liste.Nombre() > 0 ? f.liste.NumeroDictio(f.EntreeCourante()) : 1;
   PoseMode(w, Mode::BlocNote);
   PoseBoutons(f, "OK", nullptr);
   f.ui.SetButtonCaption(Bouton::CmdQuitter, "Annuler");
   OublieDebutTape(f);
   w.FlecheHautArmee = w.FlecheBasArmee = false;
-  w.PremierIndexAffiche = 1;
+  w.PremierIndexAffiche = premier;
   InitTableIndex(f);
   f.ui.SetLineEditable(true);
   f.ui.FocusLine();
   AfficheStatus(f);
+}
+
+}  // namespace
+
+void EntrerBlocNote(Form& f) {
+  EtatFenetre& w = f.fenetre;
+  const Mode avant = w.ModeCourant();
+  w.EntreeAvantSaisie = DansUnDictionnaire(avant) ? std::max(EntreeDuDictionnaire(f), 1) : 1;
+  w.AvantSaisie = avant;
+  PageBlocNote(f, 1);
   if (f.blocnote.lignes.empty()) message(f, "bloc note vide");
   else AnnonceLigneCourante(f);
+}
+
+void RevenirAuBlocNote(Form& f, std::int32_t premier, std::size_t curseur) {
+  PageBlocNote(f, premier);
+  PoseCurseur(f, curseur);
+  AnnonceLigneCourante(f);
 }
 
 void EntrerCreationDictio(Form& f, int d) {
@@ -167,8 +196,10 @@ void EntrerSaisieArticle(Form& f, Mode m, std::int32_t entree, const std::string
   AfficheStatus(f);
 }
 
-void EntrerAide(Form& f, const std::string& texte) {
+void EntrerAide(Form& f, const std::string& texte, bool guide, const PlaceAvantGuide& avant) {
   PoseMode(f.fenetre, Mode::Aide);
+  f.fenetre.GuideAffiche = guide;
+  f.fenetre.AvantGuide = avant;
   OublieDebutTape(f);
   MontreDansTxt(f, texte);
   f.ui.FocusLine();

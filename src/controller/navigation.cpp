@@ -6,6 +6,7 @@
 #include "base/error.h"
 #include "catalogue/lists.h"
 #include "controller/form.h"
+#include "controller/limits.h"
 #include "controller/line_helpers.h"
 #include "controller/message.h"
 #include "controller/modes.h"
@@ -38,11 +39,13 @@ bool PagePrecedente(Form& f, bool surLaLignePrecedente) {
   f.GardePage();
   OublieDebutTape(f);
   const std::int32_t ancien = f.fenetre.PremierIndexAffiche;
-  if (ancien != 1) {
-    const std::int32_t premier = std::max(1, ancien - kLignesPage);
-    // From the arrows, the entry just above the old page; from Page Up, the same line.
-    TournePage(f, premier, surLaLignePrecedente ? ancien - premier : LigneCurseur(f));
+  if (ancien == 1) {
+    AuBord(f, Bord::Debut);
+    return true;
   }
+  const std::int32_t premier = std::max(1, ancien - kLignesPage);
+  // From the arrows, the entry just above the old page; from Page Up, the same line.
+  TournePage(f, premier, surLaLignePrecedente ? ancien - premier : LigneCurseur(f));
   return true;
 }
 
@@ -53,16 +56,17 @@ bool PageSuivante(Form& f, bool surLaPremiereLigne) {
   OublieDebutTape(f);
   const std::int32_t premier = f.fenetre.PremierIndexAffiche + kLignesPage;
   if (premier > NombreLignes(f)) {
-    f.ui.Beep();
+    AuBord(f, Bord::Fin, true);
     return true;
   }
   TournePage(f, premier, surLaPremiereLigne ? 1 : LigneCurseur(f));
   return true;
 }
 
-// The first press at the edge line arms the arrow (the user hears the edge); the second one
-// turns the page. Anywhere else the field moves the caret itself.
-bool Fleche(Form& f, bool aLaLimite, bool& armee, bool (*tourne)(Form&, bool)) {
+// The first press at the edge line arms the arrow: the caret stays and the user hears the
+// edge, the page's or, with no page beyond, the list's own; the second one turns the page.
+// Anywhere else the field moves the caret itself.
+bool Fleche(Form& f, bool aLaLimite, bool& armee, bool pageAuDela, Bord bord, bool (*tourne)(Form&, bool)) {
   EtatFenetre& w = f.fenetre;
   if (!DansIndex(f)) return false;
   OublieDebutTape(f);
@@ -72,7 +76,9 @@ bool Fleche(Form& f, bool aLaLimite, bool& armee, bool (*tourne)(Form&, bool)) {
   }
   if (!armee) {
     armee = true;
-    return false;
+    if (pageAuDela) AuBord(f, bord == Bord::Debut ? Bord::HautDePage : Bord::BasDePage);
+    else AuBord(f, bord);
+    return true;
   }
   return tourne(f, true);
 }
@@ -81,12 +87,14 @@ bool Fleche(Form& f, bool aLaLimite, bool& armee, bool (*tourne)(Form&, bool)) {
 
 bool FlecheHaut(Form& f) {
   ErrorTrap trap(" sur FlecheHaut");
-  return Fleche(f, LigneCurseur(f) == 1, f.fenetre.FlecheHautArmee, PagePrecedente);
+  return Fleche(f, LigneCurseur(f) == 1, f.fenetre.FlecheHautArmee, f.fenetre.PremierIndexAffiche > 1, Bord::Debut,
+                PagePrecedente);
 }
 
 bool FlecheBas(Form& f) {
   ErrorTrap trap(" sur FlecheBas");
-  return Fleche(f, FinLigne(f) >= f.ui.GetLineText().size(), f.fenetre.FlecheBasArmee, PageSuivante);
+  return Fleche(f, FinLigne(f) >= f.ui.GetLineText().size(), f.fenetre.FlecheBasArmee,
+                f.fenetre.PremierIndexAffiche + kLignesPage <= NombreLignes(f), Bord::Fin, PageSuivante);
 }
 
 bool Indexprecedent(Form& f) { return PagePrecedente(f, false); }
@@ -96,7 +104,8 @@ bool AppelDebutIndex(Form& f) {
   ErrorTrap trap(" sur AppelDebutIndex");
   if (!DansIndex(f)) return false;
   f.GardePage();
-  TournePage(f, 1, 1);
+  if (f.fenetre.PremierIndexAffiche == 1 && LigneCurseur(f) == 1) AuBord(f, Bord::Debut);
+  else TournePage(f, 1, 1);
   return true;
 }
 
@@ -106,7 +115,8 @@ bool AppelFinIndex(Form& f) {
   f.GardePage();
   const std::int32_t n = NombreLignes(f);
   const std::int32_t premier = DebutDernierePage(n);
-  TournePage(f, premier, n - premier + 1);
+  if (f.fenetre.PremierIndexAffiche == premier && LigneCurseur(f) >= n - premier + 1) AuBord(f, Bord::Fin);
+  else TournePage(f, premier, n - premier + 1);
   return true;
 }
 

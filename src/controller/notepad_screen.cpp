@@ -4,6 +4,7 @@
 #include "controller/form.h"
 #include "controller/modes.h"
 #include "controller/buttons.h"
+#include "controller/place.h"
 
 namespace lex {
 
@@ -18,7 +19,7 @@ void Form::GardePage() {
 void Form::QuitteBlocNote() { RetourIndex(*this); }
 
 bool LaisseBlocNote(Form& f) {
-  if (f.fenetre.ModeCourant() != Mode::BlocNote) return true;
+  if (!BlocNoteEnCours(f)) return true;
   PartiesBlocNote p = f.PartiesNote();
   return QuitteAvecBlocNote(p);
 }

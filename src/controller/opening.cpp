@@ -23,9 +23,16 @@ void AppelDictionnaire(Form& f) {
   Catalogue& c = f.catalogue;
   if (!SurLeCatalogue(w.ModeCourant())) return;
   const int r = RangSousCurseur(f);
-  if (r < 1) return;
+  // The title and the blank line open nothing.
+  if (r < 1) {
+    message(f, "choisissez un dictionnaire");
+    return;
+  }
   if (w.ModeCourant() == Mode::ListeHistoire) {
-    if (r > c.NombreHistoire) return;
+    if (r > c.NombreHistoire) {
+      message(f, "choisissez un dictionnaire");
+      return;
+    }
     w.DictioCourant = static_cast<std::int16_t>(r + 9);
     c[9].PositionDictio = r;
   } else {
@@ -45,7 +52,7 @@ void AppelDictionnaire(Form& f) {
   const std::string nomfic = FichierALire(c, f.reglages.DossierDictio, d);
   if (!FichierExistant(nomfic)) {
     f.dlg.MessageBox("dictionnaire " + CheminAffiche(nomfic) + " absent, Ctrl-n pour cr\xE9" "er le premier index ", Boutons::OK,
-                     Icone::Exclamation, "Dictionnaires");
+                     Icone::Exclamation, kTitreBoites);
     return;
   }
   OuvreEtMontre(f, nomfic, c[d].PositionDictio);
@@ -53,7 +60,7 @@ void AppelDictionnaire(Form& f) {
 
 AvisOuverture AvisDe(Form& f) {
   return {[&f](std::string t) { message(f, std::move(t)); },
-          [&f](std::string t) { f.dlg.MessageBox(t, Boutons::OK, Icone::Exclamation, "Dictionnaires"); },
+          [&f](std::string t) { f.dlg.MessageBox(t, Boutons::OK, Icone::Exclamation, kTitreBoites); },
           [&f] { f.ui.Beep(); }};
 }
 

@@ -1,7 +1,9 @@
 // The screen font, the guide and the about text. The guide and the about text take the place
-// of the index field's text, where they are read line by line; OK or Escape brings the list of
-// dictionaries back.
+// of the index field's text, where they are read line by line; from the menu, OK or Escape
+// brings the list of dictionaries back (F1 gives the guide over what the user is doing:
+// controller/place.h).
 #pragma once
+#include <string>
 
 namespace lex {
 
@@ -13,6 +15,8 @@ struct Police;
 Police PoliceReglee(const Reglages& r);
 
 void mnuPoliceEcran_Click(Form& f);
+// The guide's text, "aide.txt" of the program folder.
+std::string TexteGuide(const Form& f);
 void mnuAideTxt_Click(Form& f);
 void mnuApropos_Click(Form& f);
 

@@ -5,8 +5,8 @@
 
 #include "base/error.h"
 #include "controller/form.h"
+#include "controller/limits.h"
 #include "controller/line_helpers.h"
-#include "controller/message.h"
 
 namespace lex {
 namespace {
@@ -17,18 +17,13 @@ std::int32_t LignesDuTexte(const std::string& texte) {
   return n > 1 && texte.ends_with("\r\n") ? n - 1 : n;
 }
 
-void AuBord(Form& f, const char* texte) {
-  f.ui.Beep();
-  message(f, texte);
-}
-
 }  // namespace
 
 void ParagrapheSuivant(Form& f) {
   ErrorTrap trap(" sur ParagrapheSuivant");
   const std::string texte = TexteChamp(f);
   const std::int32_t n = numeroTxt(texte, CurseurChamp(f));
-  if (n >= LignesDuTexte(texte)) AuBord(f, "fin de l'article");
+  if (n >= LignesDuTexte(texte)) AuBord(f, Bord::Fin, true);
   else SurNumero(f, texte, n + 1);
 }
 
@@ -36,7 +31,7 @@ void ParagraphePrecedent(Form& f) {
   ErrorTrap trap(" sur ParagraphePrecedent");
   const std::string texte = TexteChamp(f);
   const std::int32_t n = numeroTxt(texte, CurseurChamp(f));
-  if (n <= 1) AuBord(f, "d\xE9" "but de l'article");
+  if (n <= 1) AuBord(f, Bord::Debut, true);
   else SurNumero(f, texte, n - 1);
 }
 

@@ -7,6 +7,7 @@
 #include "controller/modes.h"
 #include "controller/opening.h"
 #include "controller/paging.h"
+#include "controller/place.h"
 
 namespace lex {
 
@@ -29,7 +30,7 @@ void Form::RechargeIndex() {
 std::string Form::FichierDictio() const { return NomDictionnaire(catalogue, reglages.DossierDictio, fenetre.DictioCourant); }
 
 Changement Form::ChangeDictionnaire(const Ecrivain& ecrire) {
-  const std::int32_t ici = liste.Nombre() > 0 ? liste.NumeroDictio(EntreeCourante()) : 1;
+  const std::int32_t ici = std::max(EntreeDuDictionnaire(*this), 1);
   const std::int32_t premier = fenetre.ModeCourant() == Mode::Index ? fenetre.PremierIndexAffiche : ici;
   Changement ch =
       ChangeCopieTravail(catalogue, reglages.DossierDictio, fenetre.DictioCourant, dico, selections, ecrire, AvisDe(*this));

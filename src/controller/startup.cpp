@@ -5,10 +5,10 @@
 #include "catalogue/saving.h"
 #include "controller/commands.h"
 #include "controller/form.h"
-#include "controller/line_helpers.h"
 #include "controller/modes.h"
 #include "controller/notepad_screen.h"
 #include "controller/options.h"
+#include "controller/place.h"
 #include "data/files.h"
 #include "data/safe_write.h"
 #include "screen_reader/startup_scripts.h"
@@ -31,7 +31,7 @@ void Chargement(Form& f, const std::string& dossierProgramme) {
     // The other one's files are left as they are: nothing is read, nothing written.
     f.dlg.MessageBox("Un autre LEX utilise d\xE9j\xE0 le dossier " + CheminAffiche(r.DossierProgramme) +
                          " : celui-ci se ferme sans toucher \xE0 ses fichiers.",
-                     Boutons::OK, Icone::Exclamation, "Dictionnaires");
+                     Boutons::OK, Icone::Exclamation, kTitreBoites);
     f.fenetre.Termine = true;
     f.ui.Quit();
     throw ProgrammeTermine{};
@@ -57,7 +57,7 @@ void Chargement(Form& f, const std::string& dossierProgramme) {
       f.dlg.MessageBox("Le fichier " + CheminAffiche(r.FichierConfig) +
                            " est trop grand pour \xEAtre une configuration de LEX : il est ignor\xE9 et sera "
                            "remplac\xE9 \xE0 la fermeture.",
-                       Boutons::OK, Icone::Exclamation, "Dictionnaires");
+                       Boutons::OK, Icone::Exclamation, kTitreBoites);
     }
   }
   if (lignes.empty()) lignes = LignesUsine(r.DossierProgramme);
@@ -81,7 +81,7 @@ void Chargement(Form& f, const std::string& dossierProgramme) {
     std::string texte = refus[i];
     if (i + 1 == kBoites && refus.size() > kBoites)
       texte += " Et " + std::to_string(refus.size() - kBoites) + " autres lignes ignor\xE9" "es.";
-    f.dlg.MessageBox(texte, Boutons::OK, Icone::Exclamation, "Dictionnaires");
+    f.dlg.MessageBox(texte, Boutons::OK, Icone::Exclamation, kTitreBoites);
   }
   if (premiere) EcrireLignes(r.FichierConfig, lignes);
   else if (!refus.empty())
@@ -89,13 +89,22 @@ void Chargement(Form& f, const std::string& dossierProgramme) {
 }
 
 void quitter(Form& f) {
+  // An article being typed is not kept anywhere yet: leaving would lose it without a word.
+  const Mode m = f.fenetre.ModeCourant();
+  f.fenetre.SaisieGardee = false;
+  if ((SaisieArticle(m) || m == Mode::CreationDictio) &&
+      f.dlg.MessageBox("Abandonner l'article en cours de saisie ?", Boutons::YesNo, Icone::Question, kTitreBoites) !=
+          Reponse::Yes) {
+    f.fenetre.SaisieGardee = true;
+    return;
+  }
   if (!LaisseBlocNote(f)) return;
   Catalogue& c = f.catalogue;
   const bool ouvert = DansUnDictionnaire(f.fenetre.ModeCourant());
   for (int i = 1; i <= c.NombreDictio() - 1; ++i) {
     if (!c[i].DicModifie) continue;
     switch (f.dlg.MessageBox("Souhaitez vous sauvegarder le dictionnaire " + c[i].NomDictio, Boutons::YesNoCancel,
-                             Icone::Question, "Dictionnaires")) {
+                             Icone::Question, kTitreBoites)) {
       case Reponse::Yes:
         SauvegardeDic(c, f.reglages.DossierDictio, i, f.selections, ouvert ? &f.dico : nullptr,
                       f.fenetre.DictioCourant);
@@ -110,9 +119,8 @@ void quitter(Form& f) {
         return;
     }
   }
-  // The position kept is the entry's own number, even when a result list is shown.
-  if (SurUneListe(f.fenetre.ModeCourant()) && f.liste.Nombre() > 0)
-    c[f.fenetre.DictioCourant].PositionDictio = f.liste.NumeroDictio(IndexAbsolu(f));
+  // The dictionary reopens where the user was, whatever they were doing in it.
+  GardePosition(f);
   EcrireLignes(f.reglages.FichierConfig,
                LignesConfig(c, f.reglages, f.fenetre.ListeHistoire, f.fenetre.DictioCourant));
   f.verrou.Rendre();
