@@ -9,6 +9,7 @@
 #include "controller/notepad_screen.h"
 #include "controller/options.h"
 #include "controller/place.h"
+#include "controller/window_frame.h"
 #include "data/files.h"
 #include "data/safe_write.h"
 #include "screen_reader/startup_scripts.h"
@@ -38,6 +39,7 @@ void Chargement(Form& f, const std::string& dossierProgramme) {
   }
   // What a cut left half written is thrown away before anything is written.
   SupprimerTemporaires(r.DossierProgramme);
+  ChargeCadre(f);
   ScriptsAuDemarrage(r.DossierProgramme, f.dlg, f);
   r.FichierBlocNote = r.DossierProgramme + "blocnote.txt";
   r.PoliceNom = "Courier";
@@ -123,6 +125,7 @@ void quitter(Form& f) {
   GardePosition(f);
   EcrireLignes(f.reglages.FichierConfig,
                LignesConfig(c, f.reglages, f.fenetre.ListeHistoire, f.fenetre.DictioCourant));
+  GardeCadre(f);
   f.verrou.Rendre();
   f.fenetre.Termine = true;
   f.ui.Quit();

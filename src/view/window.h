@@ -18,6 +18,15 @@ struct Police {
   int taille = 10;
 };
 
+// Where the window stands on the desktop, in pixels: its place, and its size when not
+// maximised. `place` false: no place known yet, the window is centred.
+struct Cadre {
+  int x = 0, y = 0;
+  int largeur = 1024, hauteur = 768;
+  bool place = false;
+  bool maximise = false;
+};
+
 struct Selection {
   std::size_t debut = 0;
   std::size_t longueur = 0;
@@ -52,6 +61,10 @@ class Fenetre {
 
   // The screen font: both fields and the message line. The caret stays where it was.
   virtual void SetFont(const Police& police) = 0;
+
+  // The window's frame. A front end keeps it within the desktop it shows it on.
+  virtual Cadre GetFrame() const = 0;
+  virtual void SetFrame(const Cadre& cadre) = 0;
 
   virtual void FocusLine() = 0;
   virtual void FocusPane() = 0;

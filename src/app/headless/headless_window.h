@@ -57,6 +57,9 @@ class HeadlessWindow final : public Fenetre, public Dialogues {
   void SetPaneVisible(bool v) override;
   bool IsPaneVisible() const override { return rtbVisible_; }
   void SetFont(const Police& police) override;
+  // The frame is kept as given: there is no desktop to fit it in.
+  Cadre GetFrame() const override { return cadre_; }
+  void SetFrame(const Cadre& c) override { cadre_ = c; }
   void FocusLine() override { rtbFocus_ = false; }
   void FocusPane() override { rtbFocus_ = rtbVisible_; }
   void SetMessage(const std::string& t) override;
@@ -84,6 +87,7 @@ class HeadlessWindow final : public Fenetre, public Dialogues {
   std::ostream& out_;
   bool rtbVisible_ = false, rtbFocus_ = false;
   Police police_;
+  Cadre cadre_;
   std::string title_, message_, clipboard_;
   std::map<Bouton, std::string> captions_{{Bouton::CmdDic, "Index"}, {Bouton::CmdQuitter, "&Quitter"}};
   std::map<Bouton, bool> hidden_;

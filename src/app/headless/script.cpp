@@ -86,6 +86,14 @@ bool ParseKey(std::string name, Key& k) {
   return true;
 }
 
+// The frame as X writes a geometry: "1024x768" when no place is known yet, "1100x700+10+20",
+// and " max" after it when maximised.
+std::string Geometrie(const Cadre& c) {
+  std::string g = std::to_string(c.largeur) + "x" + std::to_string(c.hauteur);
+  if (c.place) g += (c.x < 0 ? "" : "+") + std::to_string(c.x) + (c.y < 0 ? "" : "+") + std::to_string(c.y);
+  return c.maximise ? g + " max" : g;
+}
+
 const char* NomBouton(Bouton b) {
   switch (b) {
     case Bouton::CmdDic: return "CmdDic";
@@ -145,6 +153,18 @@ class Runner {
     if (cmd == "mkdir") return MakeFolder(rest);
     if (cmd == "close") {
       EvFermeture(form_);
+      return true;
+    }
+    if (cmd == "frame") {
+      // The user moved or resized the window: x y width height, then "max" when maximised.
+      std::istringstream a(rest);
+      Cadre c;
+      std::string max;
+      if (!(a >> c.x >> c.y >> c.largeur >> c.hauteur) || c.largeur <= 0 || c.hauteur <= 0) return false;
+      if (a >> max && max != "max") return false;
+      c.place = true;
+      c.maximise = max == "max";
+      win_.SetFrame(c);
       return true;
     }
     if (cmd == "show") {
@@ -217,7 +237,8 @@ class Runner {
          << ",\"caret_line\":" << shown.Line() << ",\"caret_col\":" << shown.Column()
          << ",\"line\":" << Json(shown.CurrentLine()) << ",\"rtb_visible\":" << (win_.IsPaneVisible() ? "true" : "false")
          << ",\"rtb\":" << Json(win_.rtb.Text()) << ",\"CmdDic\":" << b(Bouton::CmdDic)
-         << ",\"CmdDivers\":" << b(Bouton::CmdDivers) << ",\"CmdQuitter\":" << b(Bouton::CmdQuitter) << "}\n";
+         << ",\"CmdDivers\":" << b(Bouton::CmdDivers) << ",\"CmdQuitter\":" << b(Bouton::CmdQuitter)
+         << ",\"frame\":" << Json(Geometrie(win_.GetFrame())) << ",\"font_size\":" << win_.Font().taille << "}\n";
   }
 
   std::ostream& out_;

@@ -55,7 +55,7 @@ int Modificateurs(const wxKeyEvent& e) {
 }
 
 Form1::Form1()
-    : wxFrame(nullptr, wxID_ANY, "Dictionnaires", wxDefaultPosition, wxSize(800, 600), wxDEFAULT_FRAME_STYLE,
+    : wxFrame(nullptr, wxID_ANY, "Dictionnaires", wxDefaultPosition, wxSize(1024, 768), wxDEFAULT_FRAME_STYLE,
               "Form1") {
   // A panel carries keyboard navigation between the controls on every platform. The file
   // and font dialogs are made when they are asked for.

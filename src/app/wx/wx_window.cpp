@@ -82,7 +82,7 @@ void ChampTexte::SetPolice(const wxFont& police) {
   SetSelection(s.debut, s.longueur);
 }
 
-WxWindow::WxWindow(const Controles& c) : c_(c), txt_(c.txt), rtb_(c.rtb), parle_(c.form) {}
+WxWindow::WxWindow(const Controles& c) : c_(c), txt_(c.txt), rtb_(c.rtb), place_(c.form), parle_(c.form) {}
 
 void WxWindow::SetFont(const Police& p) {
   const wxFont police = PoliceWx(p);

@@ -8,6 +8,7 @@
 #include <optional>
 #include <string>
 
+#include "app/wx/frame_place.h"
 #include "app/wx/spoken_message.h"
 #include "view/dialogs.h"
 #include "view/window.h"
@@ -87,6 +88,8 @@ class WxWindow final : public Fenetre, public Dialogues {
   void SetPaneVisible(bool visible) override;
   bool IsPaneVisible() const override { return c_.rtb->IsShown(); }
   void SetFont(const Police& p) override;
+  Cadre GetFrame() const override { return place_.Lit(); }
+  void SetFrame(const Cadre& c) override { place_.Pose(c); }
   void FocusLine() override { c_.txt->SetFocus(); }
   void FocusPane() override { c_.rtb->SetFocus(); }
   void SetMessage(const std::string& t) override;
@@ -113,6 +116,7 @@ class WxWindow final : public Fenetre, public Dialogues {
 
   Controles c_;
   ChampTexte txt_, rtb_;
+  PlaceFenetre place_;
   MessageParle parle_;
   // The focused field, its text and its caret when a line-reading key came.
   struct Touche {
