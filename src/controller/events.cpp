@@ -7,6 +7,7 @@
 #include "controller/error_trap.h"
 #include "controller/modes.h"
 #include "controller/startup.h"
+#include "controller/zoom.h"
 #include "data/files.h"
 #include "data/write_error.h"
 
@@ -55,6 +56,13 @@ void EvBouton(Form& f, Bouton b) {
       case Bouton::CmdQuitter: CmdQuitter_Click(f); break;
     }
   });
+}
+
+bool EvMolette(Form& f, int rotation, int cran, int modificateurs) {
+  if (f.fenetre.Termine) return false;
+  bool pris = false;
+  Evenement(f, [&] { pris = MoletteZoom(f, rotation, cran, modificateurs); });
+  return pris;
 }
 
 void EvFermeture(Form& f) {

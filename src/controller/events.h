@@ -21,6 +21,10 @@ void EvChargement(Form& f, const std::string& dossierProgramme);
 // A menu entry chosen in the menu bar (accelerators go through the key route).
 void EvMenu(Form& f, MenuId id);
 void EvBouton(Form& f, Bouton b);
+// The mouse wheel over the window: `rotation` as the toolkit measures it, `cran` one notch, and
+// the modifier bits. True when the program took it (with Ctrl: the font size); otherwise the
+// control scrolls as usual.
+bool EvMolette(Form& f, int rotation, int cran, int modificateurs);
 // The window's close box: the program always ends, saving what the user agreed to.
 void EvFermeture(Form& f);
 

@@ -6,6 +6,7 @@
 #include "controller/form.h"
 #include "controller/key_handlers.h"
 #include "controller/menus.h"
+#include "controller/zoom.h"
 #include "view/keys.h"
 
 namespace lex {
@@ -34,6 +35,11 @@ bool ToucheBas(Form& f, Champ champ, int code, int modificateurs) {
   // field's select-all.
   if (const MenuItem* m = MenuParRaccourci(code, modificateurs); m && MenuActif(f, m->id)) {
     Evenement(f, [&] { ExecuteMenu(f, m->id); });
+    return true;
+  }
+  // The font size keys, which no menu holds, work wherever the user is.
+  if (const int sens = SensZoom(code, modificateurs)) {
+    Evenement(f, [&] { Zoom(f, sens); });
     return true;
   }
   return Utilise(f, [&] {

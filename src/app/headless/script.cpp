@@ -59,7 +59,8 @@ bool ParseKey(std::string name, Key& k) {
       {"Right", {Touche::Droite, 0}},     {"PageUp", {Touche::PagePrec, 0}},   {"PageDown", {Touche::PageSuiv, 0}},
       {"Home", {Touche::Debut, 0}},       {"End", {Touche::Fin, 0}},           {"Enter", {Touche::Entree, 13}},
       {"Escape", {Touche::Echap, 27}},    {"Backspace", {Touche::Retour, 8}},  {"Delete", {Touche::Suppr, 0}},
-      {"Space", {Touche::Espace, ' '}},   {"Tab", {Touche::Tab, 9}}};
+      {"Space", {Touche::Espace, ' '}},   {"Tab", {Touche::Tab, 9}},           {"Plus", {Touche::Plus, '+'}},
+      {"Minus", {Touche::Moins, '-'}},    {"Add", {Touche::PavePlus, '+'}},    {"Subtract", {Touche::PaveMoins, '-'}}};
   for (const auto& [n, v] : noms)
     if (name == n) {
       k.code = v.first;
@@ -83,6 +84,9 @@ bool ParseKey(std::string name, Key& k) {
     k.code = c;
     if (!(k.shift & (kCtrl | kAlt))) k.shift |= kShift;
   } else if (c >= '0' && c <= '9') k.code = c;
+  // The keys of "+" (with "=") and "-" have codes of their own, as on a real keyboard.
+  else if (c == '+' || c == '=') k.code = Touche::Plus;
+  else if (c == '-') k.code = Touche::Moins;
   return true;
 }
 

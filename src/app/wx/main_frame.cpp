@@ -32,6 +32,10 @@ int CodeTouche(int k) {
     case WXK_SHIFT: return 16;
     case WXK_CONTROL: return 17;
     case WXK_ALT: return 18;
+    case WXK_NUMPAD_ADD: case WXK_ADD: return Touche::PavePlus;
+    case WXK_NUMPAD_SUBTRACT: case WXK_SUBTRACT: return Touche::PaveMoins;
+    case '+': case '=': return Touche::Plus;
+    case '-': return Touche::Moins;
     default: break;
   }
   if (k >= WXK_F1 && k <= WXK_F24) return Touche::F1 + (k - WXK_F1);
@@ -50,7 +54,7 @@ bool LitLaLigne(int code, int modificateurs) {
   }
 }
 
-int Modificateurs(const wxKeyEvent& e) {
+int Modificateurs(const wxKeyboardState& e) {
   return (e.ShiftDown() ? kShift : 0) | (e.ControlDown() ? kCtrl : 0) | (e.AltDown() ? kAlt : 0);
 }
 
@@ -111,6 +115,12 @@ Form1::Form1()
       e.Skip();
     });
   }
+  for (wxWindow* w : {static_cast<wxWindow*>(txt), static_cast<wxWindow*>(Rtb), static_cast<wxWindow*>(panneau)})
+    w->Bind(wxEVT_MOUSEWHEEL, [this](wxMouseEvent& e) {
+      if (e.GetWheelAxis() != wxMOUSE_WHEEL_VERTICAL ||
+          !EvMolette(*form_, e.GetWheelRotation(), e.GetWheelDelta(), Modificateurs(e)))
+        e.Skip();
+    });
   CmdDic->Bind(wxEVT_BUTTON, [this](wxCommandEvent&) { EvBouton(*form_, Bouton::CmdDic); });
   CmdDivers->Bind(wxEVT_BUTTON, [this](wxCommandEvent&) { EvBouton(*form_, Bouton::CmdDivers); });
   CmdQuitter->Bind(wxEVT_BUTTON, [this](wxCommandEvent&) { EvBouton(*form_, Bouton::CmdQuitter); });

@@ -37,6 +37,6 @@ class Form1 final : public wxFrame {
 // The classic virtual key code of a wx key code (0 when it has none), and the modifier bits.
 int CodeTouche(int wxKey);
 bool LitLaLigne(int code, int modificateurs);
-int Modificateurs(const wxKeyEvent& e);
+int Modificateurs(const wxKeyboardState& e);
 
 }  // namespace lex::wx
