@@ -6,6 +6,7 @@
 #include <gdk/gdk.h>
 #endif
 
+#include "app/wx/line_highlight.h"
 #include "app/wx/menu_keys.h"
 #include "controller/menus.h"
 #include "view/keys.h"
@@ -64,8 +65,10 @@ Form1::Form1()
   // A panel carries keyboard navigation between the controls on every platform. The file
   // and font dialogs are made when they are asked for.
   auto* panneau = new wxPanel(this, wxID_ANY);
-  // Lines are not wrapped, so that the line a screen reader speaks is the program's line.
-  const long texte = wxTE_MULTILINE | wxTE_PROCESS_ENTER | wxTE_NOHIDESEL | wxTE_DONTWRAP;
+  // Long lines wrap at the window's width, between words where they can: an enlarged font
+  // must not hide the end of a line. A screen reader then speaks the part of the line it
+  // shows, as in any editor that wraps; the program's own commands still go by whole lines.
+  const long texte = wxTE_MULTILINE | wxTE_PROCESS_ENTER | wxTE_NOHIDESEL | wxTE_BESTWRAP;
   auto* Rtb = new wxTextCtrl(panneau, wxID_ANY, "", wxDefaultPosition, wxDefaultSize, texte | wxTE_RICH2,
                              wxDefaultValidator, "Rtb");
   Rtb->Hide();
@@ -79,7 +82,6 @@ Form1::Form1()
   // Made after the buttons: a label takes the next control made as the one it names.
   auto* LblMessage = new wxStaticText(panneau, wxID_ANY, "", wxDefaultPosition, wxDefaultSize, wxST_NO_AUTORESIZE,
                                       "LblMessage");
-  LblMessage->SetForegroundColour(wxColour(0xFF, 0x55, 0x55));
   LblMessage->SetMinSize(wxSize(-1, LblMessage->GetCharHeight() * 3 / 2));
 
   auto* boutons = new wxBoxSizer(wxHORIZONTAL);
@@ -115,6 +117,9 @@ Form1::Form1()
       e.Skip();
     });
   }
+  // The desktop's theme gives every colour; the caret's line is a tint of it.
+  SurligneLigneDuCurseur(txt);
+  SurligneLigneDuCurseur(Rtb);
   for (wxWindow* w : {static_cast<wxWindow*>(txt), static_cast<wxWindow*>(Rtb), static_cast<wxWindow*>(panneau)})
     w->Bind(wxEVT_MOUSEWHEEL, [this](wxMouseEvent& e) {
       if (e.GetWheelAxis() != wxMOUSE_WHEEL_VERTICAL ||
