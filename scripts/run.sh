@@ -5,6 +5,8 @@ cd "$(dirname "$0")/.."
 scripts/install-deps.sh build
 cmake -S . -B build -DCMAKE_BUILD_TYPE=Release -DLEX_TESTS=OFF >/dev/null
 cmake --build build -j"$(nproc 2>/dev/null || echo 2)"
+# LEX in the desktop's menu, for this user.
+scripts/install-desktop-entry.sh build/lex
 if [ -z "${DISPLAY:-}" ] && [ -z "${WAYLAND_DISPLAY:-}" ]; then
   echo "LEX needs a graphical desktop (no DISPLAY or WAYLAND_DISPLAY is set)." >&2
   echo "The program is built in build/lex/; the scripted window runs anywhere:" >&2
