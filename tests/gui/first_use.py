@@ -12,7 +12,7 @@ import sys
 import time
 
 from lexgui import Fenetre, attendre, principal, verifie
-from orca_speech import orca, paroles, pret, speech_dispatcher
+from orca_speech import orca_pret, paroles, speech_dispatcher
 
 SILENCE = 0.5  # seconds without speech after which Orca is taken to have said all
 ICI = os.path.dirname(os.path.abspath(__file__))
@@ -33,10 +33,10 @@ def dossier(lex, racine):
 def test(lex, lex_headless, racine):
     journal = os.path.join(racine, "orca.out")
     sd = speech_dispatcher(racine)
-    o = orca(racine, journal, "fr_FR:fr")
+    o = None
     touches, reponses = [], []
     try:
-        pret(o, journal)
+        o = orca_pret(racine, journal, "fr_FR:fr")
         d = dossier(lex, racine)
 
         def demarre():
@@ -110,6 +110,8 @@ def test(lex, lex_headless, racine):
         for p in paroles(journal):
             print("   ", p)
         for p in (o, sd):
+            if p is None:
+                continue
             p.terminate()
             try:
                 p.wait(5)

@@ -257,6 +257,7 @@ class Fenetre:
     def __init__(self, dossier, env=None):
         Fenetre.ouvertes.append(self)
         self.paroles, self.titres, self.carets, self.journal = [], [], [], []
+        self.affiches = []  # each text the message line shows
         self._ecoute = self._evenement
         for t in self.TYPES:
             pyatspi.Registry.registerEventListener(self._ecoute, t)
@@ -294,6 +295,8 @@ class Fenetre:
         if ev.type.startswith("object:property-change:accessible-description"):
             if ev.any_data:
                 self.paroles.append(ev.any_data)
+        elif r == "label" and ev.type.startswith("object:property-change:accessible-name"):
+            self.affiches.append(ev.any_data)
         elif r == "frame" and ev.type.startswith("object:property-change:accessible-name"):
             self.titres.append(ev.any_data)
         elif r == "text" and ev.type.startswith("object:text-caret-moved"):

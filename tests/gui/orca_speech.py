@@ -7,6 +7,7 @@ import re
 import shutil
 import subprocess
 import sys
+import tempfile
 
 from lexgui import Echec, Fenetre, attendre, attendre_egal, dossier_programme, fermer_par_la_case, principal, verifie
 
@@ -36,8 +37,7 @@ def speech_dispatcher(racine):
 def orca(racine, journal, langue=None):
     """Orca, speaking but echoing no keys and showing no braille, logging line by line; in the
     language given (a LANGUAGE value) rather than the session's."""
-    prefs = os.path.join(racine, "orca-prefs")
-    os.makedirs(prefs)
+    prefs = tempfile.mkdtemp(prefix="orca-prefs-", dir=racine)
     reglages = {"enableKeyEcho": False, "enableEchoByCharacter": False, "enableEchoByWord": False,
                 "enableBraille": False, "enableBrailleMonitor": False, "enableSpeech": True, "firstStart": False,
                 "enableTutorialMessages": False}
@@ -48,7 +48,7 @@ def orca(racine, journal, langue=None):
     # Orca's debug file is block-buffered and loses its tail when Orca is stopped.
     with open("/usr/bin/orca") as f:
         source = f.read()
-    copie = os.path.join(racine, "orca")
+    copie = os.path.join(prefs, "orca")
     with open(copie, "w") as f:
         f.write(source.replace("open(args.debug_file, 'w')", "open(args.debug_file, 'w', buffering=1)"))
     env = dict(os.environ)
@@ -82,6 +82,22 @@ def pret(o, journal):
     attendre(ecoute, "Orca to start", DEMARRAGE_ORCA)
 
 
+def orca_pret(racine, journal, langue=None):
+    """Orca started and listening. Orca has now and then ended at start on a loaded machine:
+    it is then started once more."""
+    for essai in (1, 2):
+        o = orca(racine, journal, langue)
+        try:
+            pret(o, journal)
+            return o
+        except Echec:
+            if o.poll() is None:
+                o.kill()
+                raise
+            if essai == 2:
+                raise
+
+
 def entendre(journal, depuis, attendus):
     """Waits until Orca has said, after its utterance number `depuis`, each of `attendus`
     (fragments) in that order; returns the index after the last one."""
@@ -98,9 +114,9 @@ def entendre(journal, depuis, attendus):
 def test(lex, lex_headless, racine):
     journal = os.path.join(racine, "orca.out")
     sd = speech_dispatcher(racine)
-    o = orca(racine, journal)
+    o = None
     try:
-        pret(o, journal)
+        o = orca_pret(racine, journal)
         w = Fenetre(dossier_programme(lex, racine))
         n = entendre(journal, 0, ["ANGLAIS francais"])
         etapes = [
@@ -138,6 +154,8 @@ def test(lex, lex_headless, racine):
         for p in paroles(journal):
             print("   ", p)
         for p in (o, sd):
+            if p is None:
+                continue
             p.terminate()
             try:
                 p.wait(5)
