@@ -7,12 +7,11 @@ heard for each."""
 import os
 import re
 import shutil
-import subprocess
 import sys
 import time
 
 from lexgui import Fenetre, attendre, principal, verifie
-from orca_speech import orca_pret, paroles, speech_dispatcher
+from orca_speech import arrete, orca_pret, paroles, speech_dispatcher
 
 SILENCE = 0.5  # seconds without speech after which Orca is taken to have said all
 ICI = os.path.dirname(os.path.abspath(__file__))
@@ -106,17 +105,7 @@ def test(lex, lex_headless, racine):
         for t, r in zip(touches, reponses):
             print("   %-8s -> %s" % (t, " | ".join(r)))
     finally:
-        print("Orca said:")
-        for p in paroles(journal):
-            print("   ", p)
-        for p in (o, sd):
-            if p is None:
-                continue
-            p.terminate()
-            try:
-                p.wait(5)
-            except subprocess.TimeoutExpired:
-                p.kill()
+        arrete(journal, o, sd)
 
 
 if __name__ == "__main__":

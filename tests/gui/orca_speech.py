@@ -98,6 +98,21 @@ def orca_pret(racine, journal, langue=None):
                 raise
 
 
+def arrete(journal, *processus):
+    """Prints all that Orca said, then stops Orca and speech-dispatcher (those started)."""
+    print("Orca said:")
+    for p in paroles(journal):
+        print("   ", p)
+    for p in processus:
+        if p is None:
+            continue
+        p.terminate()
+        try:
+            p.wait(5)
+        except subprocess.TimeoutExpired:
+            p.kill()
+
+
 def entendre(journal, depuis, attendus):
     """Waits until Orca has said, after its utterance number `depuis`, each of `attendus`
     (fragments) in that order; returns the index after the last one."""
@@ -150,17 +165,7 @@ def test(lex, lex_headless, racine):
         w.touche("Return")
         w.attendre_fin("saving")
     finally:
-        print("Orca said:")
-        for p in paroles(journal):
-            print("   ", p)
-        for p in (o, sd):
-            if p is None:
-                continue
-            p.terminate()
-            try:
-                p.wait(5)
-            except subprocess.TimeoutExpired:
-                p.kill()
+        arrete(journal, o, sd)
 
 
 if __name__ == "__main__":
