@@ -57,7 +57,8 @@ bool ToucheAuBord(Form& f, int code, int shift) {
   extraitLigne(texte, debutLigne);
   std::size_t finLigne = texte.find("\r\n", debutLigne);
   if (finLigne == std::string::npos) finLigne = texte.size();
-  const bool premiereLigne = debutLigne == 0, derniereLigne = finLigne == texte.size();
+  // Rows, not lines: a wrapped line is gone through row by row before its end is a limit.
+  const bool premiereLigne = f.ui.CaretOnFirstRow(), derniereLigne = f.ui.CaretOnLastRow();
   Bord bord = Bord::Debut;
   bool auBord = false;
   switch (code) {

@@ -59,6 +59,12 @@ class Fenetre {
   virtual void SetPaneVisible(bool visible) = 0;
   virtual bool IsPaneVisible() const = 0;
 
+  // Whether the caret of the field shown (Rtb when visible, txt otherwise) is on the first or
+  // the last row it shows: a long line wrapped at the window's width makes several rows, which
+  // the arrows go through before they reach the text's end.
+  virtual bool CaretOnFirstRow() const = 0;
+  virtual bool CaretOnLastRow() const = 0;
+
   // The screen font: both fields and the message line. The caret stays where it was.
   virtual void SetFont(const Police& police) = 0;
 

@@ -130,7 +130,7 @@ def mesures(w, theme):
 def test(lex, lex_headless, racine):
     dossier = dossier_programme(lex, racine)
     # In the dictionary's order: "\u00e9t\u00e9" is an "e".
-    articles = ARTICLES[:4] + [["long", LONGUE, "fin"]]
+    articles = ARTICLES[:4] + [["long", "d\u00e9but", LONGUE]]
     lignes = []
     for a in articles:
         lignes += a + [""]
@@ -196,17 +196,29 @@ def test(lex, lex_headless, racine):
     # unchanged, and the shown part of the line at the caret.
     w.touche("l", "Return")
     w.attendre_titre("long")
-    attendre_egal(lambda: w.texte(w.txt), "long\n%s\nfin" % LONGUE, "the long article")
+    attendre_egal(lambda: w.texte(w.txt), "long\nd\u00e9but\n%s" % LONGUE, "the long article")
+    w.attendre_ligne("d\u00e9but")
+    w.touche("Down")
     vue = attendre(lambda: w.ligne_curseur() if w.ligne_curseur().startswith("mot0 ") else None,
                    "the caret on the long line")
     t = w.txt.queryText()
-    debut = len("long\n")
+    debut = len("long\nd\u00e9but\n")
     etendue_longue = Rect(*t.getRangeExtents(debut, debut + len(LONGUE), pyatspi.DESKTOP_COORDS))
     hauteur_ligne = etendue_ligne(w.txt, 0).height
     verifie(etendue_longue.height >= 3 * hauteur_ligne, "the long line is not wrapped: %r" % (etendue_longue,))
     verifie(etendue_longue.x + etendue_longue.width <= e.x + e.width, "the long line goes past the field: %r" % (etendue_longue,))
     verifie(LONGUE.startswith(vue) and len(vue) < len(LONGUE), "line at the caret: %r" % vue)
     print("wrapped line at the caret, as AT-SPI gives it: %d of %d characters: %r..." % (len(vue), len(LONGUE), vue[:40]))
+    # The article's last line, wrapped, is read row by row with Down before its end is said.
+    rangees, n = [vue], len(w.paroles)
+    while len(rangees) < 10 and not any("fin de l'article" in p for p in w.paroles[n:]):
+        w.touche("Down")
+        attendre(lambda: w.ligne_curseur() != rangees[-1] or any("fin de l'article" in p for p in w.paroles[n:]),
+                 "Down on the row %r to move or to say the end" % rangees[-1])
+        if w.ligne_curseur() != rangees[-1]:
+            rangees.append(w.ligne_curseur())
+    verifie(len(rangees) >= 3 and "".join(rangees).replace(" ", "") == LONGUE.replace(" ", ""),
+            "the rows of the wrapped last line, before the end: %r" % rangees)
     w.touche("Escape")
 
     # Moved and resized, the window is found again so at the next start; so is the font.

@@ -206,4 +206,14 @@ void HeadlessWindow::Quit() {
   quit = true;
 }
 
+bool HeadlessWindow::CaretOnFirstRow() const {
+  const TextField& f = rtbVisible_ ? rtb : txt;
+  return f.Line() == 1;
+}
+
+bool HeadlessWindow::CaretOnLastRow() const {
+  const TextField& f = rtbVisible_ ? rtb : txt;
+  return f.Text().find('\n', f.Caret()) == std::string::npos;
+}
+
 }  // namespace lex::headless

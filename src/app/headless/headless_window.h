@@ -56,6 +56,9 @@ class HeadlessWindow final : public Fenetre, public Dialogues {
   Selection GetPaneSelection() const override { return {rtb.Caret(), rtb.Length()}; }
   void SetPaneVisible(bool v) override;
   bool IsPaneVisible() const override { return rtbVisible_; }
+  // The scripted window wraps nothing: a row is a line.
+  bool CaretOnFirstRow() const override;
+  bool CaretOnLastRow() const override;
   void SetFont(const Police& police) override;
   // The frame is kept as given: there is no desktop to fit it in.
   Cadre GetFrame() const override { return cadre_; }

@@ -93,6 +93,36 @@ void WxWindow::SetFont(const Police& p) {
   c_.panneau->Layout();
 }
 
+namespace {
+
+// Whether the caret is on the same row as the start (or the end) of the text, as the control
+// shows it.
+bool MemeRangee(wxTextCtrl* c, bool fin) {
+#ifdef __WXGTK__
+  GtkTextView* vue = GTK_TEXT_VIEW(c->GetConnectWidget());
+  GtkTextBuffer* tampon = gtk_text_view_get_buffer(vue);
+  GtkTextIter curseur, bout;
+  gtk_text_buffer_get_iter_at_mark(tampon, &curseur, gtk_text_buffer_get_insert(tampon));
+  if (fin) gtk_text_buffer_get_end_iter(tampon, &bout);
+  else gtk_text_buffer_get_start_iter(tampon, &bout);
+  GdkRectangle a, b;
+  gtk_text_view_get_iter_location(vue, &curseur, &a);
+  gtk_text_view_get_iter_location(vue, &bout, &b);
+  return a.y == b.y;
+#else
+  long x = 0, y = 0, yBout = 0;
+  c->PositionToXY(c->GetInsertionPoint(), &x, &y);
+  c->PositionToXY(fin ? c->GetLastPosition() : 0, &x, &yBout);
+  return y == yBout;
+#endif
+}
+
+}  // namespace
+
+bool WxWindow::CaretOnFirstRow() const { return MemeRangee(IsPaneVisible() ? c_.rtb : c_.txt, false); }
+
+bool WxWindow::CaretOnLastRow() const { return MemeRangee(IsPaneVisible() ? c_.rtb : c_.txt, true); }
+
 void WxWindow::SetPaneVisible(bool visible) {
   if (visible == c_.rtb->IsShown()) return;
   c_.rtb->Show(visible);

@@ -87,6 +87,8 @@ class WxWindow final : public Fenetre, public Dialogues {
   Selection GetPaneSelection() const override { return rtb_.GetSelection(); }
   void SetPaneVisible(bool visible) override;
   bool IsPaneVisible() const override { return c_.rtb->IsShown(); }
+  bool CaretOnFirstRow() const override;
+  bool CaretOnLastRow() const override;
   void SetFont(const Police& p) override;
   Cadre GetFrame() const override { return place_.Lit(); }
   void SetFrame(const Cadre& c) override { place_.Pose(c); }
