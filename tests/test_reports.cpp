@@ -27,7 +27,7 @@ std::string Mots(int n, Sauf sauf) {
   std::string texte;
   for (int i = 1; i <= n; ++i) {
     if (sauf(i)) continue;
-    char mot[32];
+    char mot[64];
     std::snprintf(mot, sizeof mot, "mot%05d (n.)\r\nsens %d\r\n\r\n", i, i);
     texte += mot;
   }
