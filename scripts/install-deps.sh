@@ -4,7 +4,8 @@
 set -euo pipefail
 what=${1:-all}
 build=(g++ cmake make pkg-config libgtest-dev libgmock-dev libwxgtk3.2-dev libgtk-3-dev
-       wx3.2-i18n)  # the toolkit's own texts in French: its dialogs' buttons
+       wx3.2-i18n  # the toolkit's own texts in French: its dialogs' buttons
+       zlib1g-dev libicu-dev libpugixml-dev)  # lex-import and lex-export
 test=(xvfb xauth x11-utils xdotool dbus-daemon dbus-x11 at-spi2-core python3 python3-pyatspi python3-gi
       orca speech-dispatcher speech-dispatcher-espeak-ng espeak-ng gir1.2-gtk-3.0 desktop-file-utils)
 # libFuzzer and the sanitizer runtimes come with clang's runtime package.
