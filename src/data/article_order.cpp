@@ -25,12 +25,16 @@ bool RangeArticle(std::string_view texte, const ClesArticle& nouveau) {
   return tete > 0 || (tete == 0 && CompareSansaccent(texte, nouveau.entiere) > 0);
 }
 
-
 bool AvantDans(const ClesArticle& a, const ClesArticle& b) {
-  const std::string& pa = a.tete.empty() ? a.entiere : a.tete;
-  const std::string& pb = b.tete.empty() ? b.entiere : b.tete;
+  return AvantDans(a.tete, a.entiere, b.tete, b.entiere);
+}
+
+bool AvantDans(std::string_view teteA, std::string_view entiereA, std::string_view teteB,
+               std::string_view entiereB) {
+  const std::string_view pa = teteA.empty() ? entiereA : teteA;
+  const std::string_view pb = teteB.empty() ? entiereB : teteB;
   if (pa != pb) return pa < pb;
-  return a.entiere < b.entiere;
+  return entiereA < entiereB;
 }
 
 }  // namespace lex

@@ -27,5 +27,9 @@ bool RangeArticle(std::string_view texte, const ClesArticle& nouveau);
 // An order of new articles among themselves that agrees with RangeArticle, so that a batch
 // sorted by it can be merged into a sorted dictionary in one pass.
 bool AvantDans(const ClesArticle& a, const ClesArticle& b);
+// The same on keys kept elsewhere than in a ClesArticle: a million articles being sorted keep
+// theirs in one block of memory, not in two strings each.
+bool AvantDans(std::string_view teteA, std::string_view entiereA, std::string_view teteB,
+               std::string_view entiereB);
 
 }  // namespace lex
