@@ -2,6 +2,7 @@
 
 #include <system_error>
 
+#include "exchange/dictd.h"
 #include "exchange/tab_separated.h"
 
 namespace lex::exchange {
@@ -10,6 +11,7 @@ namespace {
 
 // The tab-separated text stays last: any text with a tab on its first line looks like it.
 constexpr Format kFormats[] = {
+    {"dictd", EstDictd, LitDictd},
     {"tabulations", EstTabulations, LitTabulations},
 };
 
