@@ -3,6 +3,7 @@
 #include <system_error>
 
 #include "exchange/dictd.h"
+#include "exchange/stardict.h"
 #include "exchange/tab_separated.h"
 
 namespace lex::exchange {
@@ -12,6 +13,7 @@ namespace {
 // The tab-separated text stays last: any text with a tab on its first line looks like it.
 constexpr Format kFormats[] = {
     {"dictd", EstDictd, LitDictd},
+    {"stardict", EstStarDict, LitStarDict},
     {"tabulations", EstTabulations, LitTabulations},
 };
 
