@@ -4,7 +4,9 @@
 
 #include "exchange/dictd.h"
 #include "exchange/stardict.h"
+#include "exchange/mythes.h"
 #include "exchange/tab_separated.h"
+#include "exchange/verbiste.h"
 
 namespace lex::exchange {
 
@@ -14,6 +16,8 @@ namespace {
 constexpr Format kFormats[] = {
     {"dictd", EstDictd, LitDictd},
     {"stardict", EstStarDict, LitStarDict},
+    {"mythes", EstMyThes, LitMyThes},
+    {"verbiste", EstVerbiste, LitVerbiste},
     {"tabulations", EstTabulations, LitTabulations},
 };
 
