@@ -4,6 +4,7 @@
 
 #include <filesystem>
 
+#include "base/encoding.h"
 #include "data/write_error.h"
 #include "exchange/dictionary_writer.h"
 #include "exchange/unicode_fold.h"
@@ -24,6 +25,15 @@ TEST(ReplieurAnsi, KeepsWhatWindows1252HoldsAndFoldsTheRest) {
   const std::vector<std::string> attendus = {"\xC5\x91\xE2\x86\x92o", "\xEF\xAC\x81\xE2\x86\x92" "fi",
                                              "\xE2\x80\x90\xE2\x86\x92-", "\xE4\xB8\xAD\xE2\x86\x92?"};
   EXPECT_EQ(r.Exemples(), attendus);
+}
+
+TEST(ReplieurAnsi, EveryWindows1252ByteComesBackAsItWas) {
+  // Export gives the undefined bytes as the C1 controls of the same value: they come back too.
+  std::string tous;
+  for (int b = 1; b < 256; ++b) tous += static_cast<char>(b);
+  ReplieurAnsi r;
+  EXPECT_EQ(r.Replie(AnsiVersUtf8(tous)), tous);
+  EXPECT_EQ(r.Changes(), 0u);
 }
 
 TEST(ReplieurAnsi, ComposesAccentsCountsEveryChangeAndKeepsFiveExamples) {

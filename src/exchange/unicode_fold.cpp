@@ -68,10 +68,10 @@ const char* Substitution(char32_t c) {
   return p != fin && p->c == c ? p->ansi : nullptr;
 }
 
-// The byte of `c` when Windows-1252 holds it; the C1 controls, which it does not hold as
-// characters (five of them would land on its undefined bytes), are not kept.
+// The byte of `c` when Windows-1252 holds it. The five C1 controls that stand for its undefined
+// bytes when a dictionary is exported are given back as those bytes, so that a dictionary
+// exported and imported again comes back whole.
 bool EnAnsi(char32_t c, char& b) {
-  if (c >= 0x80 && c < 0xA0) return false;
   b = AnsiDeUnicode(c);
   return b != '?' || c == U'?';
 }
