@@ -8,6 +8,7 @@
 #include "test_support.h"
 
 using namespace lex::exchange;
+using namespace std::string_literals;
 
 namespace {
 
@@ -80,6 +81,10 @@ TEST_F(MyThes, DamagedFilesNameTheLine) {
             "ligne 2 | le mot \xC2\xAB chat \xC2\xBB annonce 2 sens, le fichier n'en donne que 1");
   EXPECT_EQ(Erreur("UTF-8\nchat|1\n(Nom)|ma\xE9tou\n"), "ligne 3 | texte qui n'est pas en \xC2\xAB UTF-8 \xC2\xBB");
   EXPECT_EQ(Erreur("UTF-8\n\n"), " | le fichier ne contient aucun mot");
+  EXPECT_EQ(Erreur("UTF-8\nchat|1\n(Nom)|ma\0tou\n"s),
+            "ligne 3 | retour chariot ou caract\xC3\xA8re nul au milieu de la ligne");
+  EXPECT_EQ(Erreur("UTF-8\nchat|1\r\n(Nom)|ma\rtou\r\n"),
+            "ligne 3 | retour chariot ou caract\xC3\xA8re nul au milieu de la ligne");
 }
 
 TEST_F(MyThes, RecognisedFromItsFirstLines) {

@@ -50,7 +50,8 @@ const std::string kConjugaisons = R"(<?xml version="1.0"?>
 
 const std::string kVerbes = R"(<?xml version="1.0"?>
 <verbs-fr>
-<v><i>aimer</i> <t>aim:er</t></v>
+<v><i> aimer
+</i> <t>aim:er</t></v>
 <v><i>habiter</i> <t>aim:er</t></v>
 <v><i>hacher</i> <t>aim:er</t> <aspirate-h/></v>
 <v><i>essuyer</i> <t>ess:uyer</t></v>

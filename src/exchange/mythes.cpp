@@ -68,6 +68,9 @@ class Lecteur {
     }
     ++numero_;
     if (!brute.empty() && brute.back() == '\r') brute.pop_back();
+    // A carriage return or a NUL byte inside a line cannot be a line of a dictionary.
+    if (brute.find_first_of(std::string_view("\r\0", 2)) != std::string::npos)
+      throw ErreurImport(nom_, Ligne(numero_), "retour chariot ou caract\xC3\xA8re nul au milieu de la ligne");
     return true;
   }
 

@@ -59,11 +59,22 @@ std::string Entree(std::size_t n, const std::string& nom) {
 
 std::string Guillemets(const std::string& s) { return "\xC2\xAB " + s + " \xC2\xBB"; }
 
+// The text of an element with its blanks trimmed, and those inside (line breaks among them,
+// which a line of an article cannot hold) made one space each, as XML readers show them.
 std::string Nettoye(std::string_view s) {
   const auto blanc = [](char c) { return c == ' ' || c == '\t' || c == '\r' || c == '\n'; };
-  while (!s.empty() && blanc(s.front())) s.remove_prefix(1);
-  while (!s.empty() && blanc(s.back())) s.remove_suffix(1);
-  return std::string(s);
+  std::string sortie;
+  bool espace = false;
+  for (const char c : s) {
+    if (blanc(c)) {
+      espace = !sortie.empty();
+      continue;
+    }
+    if (espace) sortie += ' ';
+    espace = false;
+    sortie += c;
+  }
+  return sortie;
 }
 
 const char* ProblemeXml(pugi::xml_parse_status s) {
