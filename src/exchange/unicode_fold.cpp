@@ -210,15 +210,14 @@ void ReplieurAnsi::Replie(std::string_view s, std::string& dest) {
     UChar32 c;
     U8_NEXT(octets, i, n, c);
     if (c < 0) {
-      composee_ += UnicodeDeAnsi(static_cast<char>(octets[debut]));
+      composee_.push_back(static_cast<UChar32>(UnicodeDeAnsi(static_cast<char>(octets[debut]))));
       i = debut + 1;
     } else {
-      composee_ += static_cast<char32_t>(c);
+      composee_.push_back(c);
     }
   }
   const icu::UnicodeString u = Normalise(
-      Nfc(), icu::UnicodeString::fromUTF32(reinterpret_cast<const UChar32*>(composee_.data()),
-                                           static_cast<int32_t>(composee_.size())));
+      Nfc(), icu::UnicodeString::fromUTF32(composee_.data(), static_cast<int32_t>(composee_.size())));
   for (int32_t k = 0; k < u.length(); k = u.moveIndex32(k, 1)) {
     const auto c = static_cast<char32_t>(u.char32At(k));
     char b;

@@ -8,6 +8,7 @@
 // examples, so that the user learns what the conversion did to the text.
 #pragma once
 #include <cstddef>
+#include <cstdint>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -40,7 +41,7 @@ class ReplieurAnsi {
 
   std::size_t changes_ = 0;
   std::vector<std::string> exemples_;
-  std::u32string composee_;  // reused: a line with combining marks, composed
+  std::vector<std::int32_t> composee_;  // reused: the code points of a line to compose
 };
 
 }  // namespace lex::exchange
