@@ -101,12 +101,10 @@ verifie "nouvel essai au démarrage suivant" grep -qx "importé de $tmp/share/di
 # While LEX runs on the folder (its lock held), nothing is touched.
 prepare "$p"
 mkdir -p "$tmp/share/dictd" && echo x >"$tmp/share/dictd/freedict-eng-fra.index"
-flock "$p/lex.lock" sleep 30 &
-verrou=$!
-sleep 0.3
+exec 9>"$p/lex.lock"
+flock 9
 lance "$p"
-kill "$verrou" 2>/dev/null
-wait "$verrou" 2>/dev/null
+exec 9>&-
 verifie "LEX ouvert : rien d'importé" cmp -s "$p/lex.eng" "$depot/bundle/lex.eng"
 verifie "LEX ouvert : dit" grep -q "LEX est ouvert sur" "$tmp/sortie"
 verifie "LEX ouvert : rien d'installé" test ! -s "$tmp/journal"
