@@ -50,12 +50,13 @@ TEST(ReplieurAnsi, ComposesAccentsCountsEveryChangeAndKeepsFiveExamples) {
   EXPECT_EQ(r.Exemples().back(), "\xE2\x88\x92\xE2\x86\x92-");  // ő→o is kept once
 }
 
-std::string Ecrit(std::vector<ArticleImporte> articles, BilanEcriture* bilan = nullptr) {
+std::string Ecrit(std::vector<ArticleImporte> articles, BilanEcriture* bilan = nullptr,
+                  EcrivainDictionnaire::Ordre ordre = EcrivainDictionnaire::Ordre::Alphabetique) {
   test::DossierTemp d;
   EcrivainDictionnaire e("source.txt");
   for (auto& a : articles) e.Entree()(std::move(a));
   const auto cible = std::filesystem::path(d.Chemin("sortie.dic"));
-  BilanEcriture b = e.Ecrit(cible);
+  BilanEcriture b = e.Ecrit(cible, ordre);
   if (bilan) *bilan = b;
   return test::Octets(cible);
 }
@@ -79,6 +80,12 @@ TEST(EcrivainDictionnaire, WritesSortedArticlesWithCrLfAndOneEmptyLineBetween) {
             "z\xE8" "bre\r\nanimal ray\xE9\r\nrayures\r\n");
   EXPECT_EQ(bilan.articles, 6u);
   EXPECT_EQ(bilan.changes, 0u);
+}
+
+TEST(EcrivainDictionnaire, AChronologyKeepsTheSourcesOrderWhenAskedTo) {
+  EXPECT_EQ(Ecrit({{"1789", {"R\xC3\xA9volution"}}, {"1515", {"Marignan"}}}, nullptr,
+                  EcrivainDictionnaire::Ordre::Source),
+            "1789\r\nR\xE9volution\r\n\r\n1515\r\nMarignan\r\n");
 }
 
 TEST(EcrivainDictionnaire, EqualKeysKeepTheSourceOrderAmongThousands) {

@@ -81,7 +81,7 @@ AjoutCatalogue::AjoutCatalogue(const std::filesystem::path& dossier, const Nouve
   entree_.NomDictio = entree_.NomFichier = nom;
   entree_.Suffixe = suffixe;
   entree_.LettreAppel = lettre;
-  entree_.OrdreAlpha = true;
+  entree_.OrdreAlpha = d.ordreAlpha;
   fichier_ = CheminNatif(r.DossierDictio + NomNatif(nom + "." + suffixe));
 }
 

@@ -19,6 +19,7 @@ struct NouveauDictionnaire {
   std::string nom;      // UTF-8, as the user typed them
   std::string suffixe;
   std::string lettre;   // the call letter; empty for none
+  bool ordreAlpha = true;
 };
 
 class AjoutCatalogue {

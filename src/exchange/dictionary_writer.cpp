@@ -116,14 +116,15 @@ void EcrivainDictionnaire::Ajoute(ArticleImporte&& a) {
   articles_.push_back(p);
 }
 
-BilanEcriture EcrivainDictionnaire::Ecrit(const std::filesystem::path& cible) {
+BilanEcriture EcrivainDictionnaire::Ecrit(const std::filesystem::path& cible, Ordre ordre) {
   if (articles_.empty()) throw ErreurImport(source_, "", "aucun article \xC3\xA0 \xC3\xA9" "crire");
   const char* cles = cles_.data();
-  std::stable_sort(articles_.begin(), articles_.end(), [cles](const Place& a, const Place& b) {
-    const std::string_view ta(cles + a.cle, a.tete), ea(cles + a.cle + a.tete, a.entiere);
-    const std::string_view tb(cles + b.cle, b.tete), eb(cles + b.cle + b.tete, b.entiere);
-    return AvantDans(ta, ea, tb, eb);
-  });
+  if (ordre == Ordre::Alphabetique)
+    std::stable_sort(articles_.begin(), articles_.end(), [cles](const Place& a, const Place& b) {
+      const std::string_view ta(cles + a.cle, a.tete), ea(cles + a.cle + a.tete, a.entiere);
+      const std::string_view tb(cles + b.cle, b.tete), eb(cles + b.cle + b.tete, b.entiere);
+      return AvantDans(ta, ea, tb, eb);
+    });
 
   EcritureSure f(cible.string(), Donnees::Utilisateur);
   std::string tampon;

@@ -46,10 +46,12 @@ class EcrivainDictionnaire {
   Recepteur Entree();
   std::size_t Nombre() const { return articles_.size(); }
 
-  // Sorts the articles and writes the file through the safe write (data/safe_write.h): the
-  // target is the new file or untouched. Throws ErreurImport when there is no article,
-  // ErreurEcriture when the file cannot be written.
-  BilanEcriture Ecrit(const std::filesystem::path& cible);
+  // Sorts the articles (unless the source's order is asked for: a dictionary without
+  // alphabetical order, such as a chronology) and writes the file through the safe write
+  // (data/safe_write.h): the target is the new file or untouched. Throws ErreurImport when
+  // there is no article, ErreurEcriture when the file cannot be written.
+  enum class Ordre { Alphabetique, Source };
+  BilanEcriture Ecrit(const std::filesystem::path& cible, Ordre ordre = Ordre::Alphabetique);
 
  private:
   struct Place {

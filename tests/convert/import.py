@@ -128,6 +128,16 @@ with tempfile.TemporaryDirectory() as work:
         lex.stdin.close()
         lex.wait(timeout=60)
         lex.stdout.close()
+    # A chronology keeps its order, and its row says it has none.
+    chrono = os.path.join(work, "chrono.txt")
+    write(chrono, b"1789\tR\xe9volution\n1515\tMarignan\n")
+    r = run("--ordre-source", chrono, "--dir", folder, "--name", "Chronologie", "--suffix", "txt")
+    check(r.returncode == 0, f"import in the source's order: {r.stderr.decode()}")
+    check(read(os.path.join(folder, "Chronologie.txt")) == b"1789\r\nR\xe9volution\r\n\r\n1515\r\nMarignan\r\n",
+          "the source's order was not kept")
+    check(read(config).endswith(b"\r\n1,txt,Chronologie, ,SansOrdreAlpha\r\n"), f"row: {read(config)[-60:]!r}")
+    settled = read(config)
+
     # Once it has ended, the same import goes through.
     r = run(source, "--dir", folder, "--name", "Pendant", "--suffix", "dic")
     check(r.returncode == 0, f"import after LEX ended: {r.stderr.decode()}")

@@ -31,8 +31,9 @@ std::string NomsDesFormats() {
 
 int Usage(const std::string& pourquoi) {
   std::cerr << "lex-import : " << pourquoi << "\n"
-            << "usage : lex-import [--format F] [--remplace] SOURCE FICHIER\n"
-               "        lex-import [--format F] [--remplace] SOURCE --dir DOSSIER --name NOM --suffix SUF [--letter L]\n"
+            << "usage : lex-import [--format F] [--remplace] [--ordre-source] SOURCE FICHIER\n"
+               "        lex-import [--format F] [--remplace] [--ordre-source] SOURCE --dir DOSSIER --name NOM "
+               "--suffix SUF [--letter L]\n"
                "formats : "
             << NomsDesFormats() << "\n";
   return 1;
@@ -68,6 +69,7 @@ std::optional<std::string> Lit(int argc, char** argv, Options& o) {
     else if (a == "--suffix") ok = valeur(o.dictionnaire.suffixe);
     else if (a == "--letter") ok = valeur(o.dictionnaire.lettre);
     else if (a == "--remplace") o.remplace = true;
+    else if (a == "--ordre-source") o.dictionnaire.ordreAlpha = false;
     else if (a.starts_with("--")) return "option inconnue : " + std::string(a);
     else libres.emplace_back(a);
     if (!ok) return "valeur manquante apr\xC3\xA8s " + std::string(a);
@@ -106,7 +108,8 @@ int Importe(const Options& o) {
 
   EcrivainDictionnaire ecrivain(o.source);
   format->lit(o.source, ecrivain.Entree());
-  const BilanEcriture bilan = ecrivain.Ecrit(cible);
+  const BilanEcriture bilan = ecrivain.Ecrit(
+      cible, o.dictionnaire.ordreAlpha ? EcrivainDictionnaire::Ordre::Alphabetique : EcrivainDictionnaire::Ordre::Source);
   if (ajout) {
     try {
       ajout->Inscrire();
