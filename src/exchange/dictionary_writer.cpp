@@ -12,6 +12,9 @@ namespace lex::exchange {
 
 namespace {
 
+// Blocks grow from the first to the largest, so that a small dictionary takes little memory
+// and a large one few blocks.
+constexpr std::size_t kPremierBloc = std::size_t{64} << 10;
 constexpr std::size_t kBloc = std::size_t{16} << 20;
 // The program reads its dictionaries with 32-bit signed offsets.
 constexpr std::uint64_t kTailleMax = std::numeric_limits<std::int32_t>::max();
@@ -56,8 +59,9 @@ std::string EcrivainDictionnaire::Endroit(std::size_t numero, const std::string&
 
 char* EcrivainDictionnaire::Reserve(std::size_t n, std::uint32_t& bloc, std::uint32_t& debut) {
   if (blocs_.empty() || rempli_ + n > tailles_.back()) {
-    const std::size_t taille = std::max(n, kBloc);
-    blocs_.push_back(std::make_unique<char[]>(taille));
+    const std::size_t suivant = tailles_.empty() ? kPremierBloc : std::min(2 * tailles_.back(), kBloc);
+    const std::size_t taille = std::max(n, suivant);
+    blocs_.push_back(std::make_unique_for_overwrite<char[]>(taille));
     tailles_.push_back(taille);
     rempli_ = 0;
   }
