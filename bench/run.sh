@@ -12,6 +12,9 @@
 #   LEX_BENCH_REPS      repetitions of the whole-file measures (default 5; 3 on the corpora)
 #   LEX_CORPORA         folder of real dictionaries (*.lex); skipped when missing
 #
+# bench_convert (export to StarDict and import back) also runs gzip, zcat and sort as its
+# references.
+#
 # A benchmark program prints rows "ROW<tab>measure<tab>ours<tab>reference<tab>ratio<tab>
 # target<tab>PASS|FAIL|-<tab>notes" (bench/bench_common.h). The exit status is 1 when a
 # target is missed on the generated dictionary.
