@@ -8,18 +8,10 @@
 #include <string>
 #include <string_view>
 
-#include "data/article_order.h"
 #include "exchange/dictionary_writer.h"
 #include "exchange/tab_separated.h"
+#include "fuzz_dictionary.h"
 #include "fuzz_folder.h"
-
-namespace {
-
-void Verifie(bool condition) {
-  if (!condition) std::abort();
-}
-
-}  // namespace
 
 extern "C" int LLVMFuzzerInitialize(int*, char***) {
   // The dictionary is written as the user's files are, forced to the disk: in memory that
@@ -44,41 +36,11 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     });
     bilan = e.Ecrit(cible);
   } catch (const ErreurImport& x) {
-    Verifie(!x.probleme().empty() && x.fichier() == source);
-    Verifie(!std::filesystem::exists(cible));
+    fuzz::Verifie(!x.probleme().empty() && x.fichier() == source);
+    fuzz::Verifie(!std::filesystem::exists(cible));
     return 0;
   }
-  Verifie(bilan.articles == lus && lus > 0);
-
-  std::string octets;
-  {
-    FILE* f = std::fopen(cible.c_str(), "rb");
-    Verifie(f != nullptr);
-    char tampon[4096];
-    for (std::size_t n; (n = std::fread(tampon, 1, sizeof tampon, f)) > 0;) octets.append(tampon, n);
-    std::fclose(f);
-  }
-  Verifie(octets.ends_with("\r\n") && octets.find('\0') == std::string::npos);
-  std::size_t articles = 0;
-  bool index = true, vide = false;
-  std::string precedent;
-  for (std::size_t p = 0; p < octets.size();) {
-    const std::size_t fin = octets.find("\r\n", p);
-    const std::string_view ligne(octets.data() + p, fin - p);
-    Verifie(ligne.find_first_of("\r\n") == std::string_view::npos);
-    if (ligne.empty()) {
-      Verifie(!index && !vide);  // one empty line, between two articles
-      index = vide = true;
-    } else if (index) {
-      Verifie(ligne.size() <= EcrivainDictionnaire::kLongueurIndex);
-      Verifie(ligne.find_first_not_of(" \t\xA0") != std::string_view::npos);
-      if (articles > 0) Verifie(!AvantDans(ClesDe(ligne), ClesDe(precedent)));
-      precedent = ligne;
-      ++articles;
-      index = vide = false;
-    }
-    p = fin + 2;
-  }
-  Verifie(!vide && articles == lus);
+  fuzz::Verifie(bilan.articles == lus && lus > 0);
+  fuzz::Verifie(fuzz::ArticlesDuDictionnaire(cible, true).size() == lus);
   return 0;
 }
