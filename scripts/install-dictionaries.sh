@@ -130,7 +130,9 @@ for d in "${voulus[@]}"; do
   IFS='|' read -r cle paquet genre fichier nom suffixe lettre quoi <<<"$d"
   source=$(source_de "$paquet")
   if [ -z "$source" ]; then
-    dire "$paquet n'a pas pu être installé (pas de réseau ?) : « $nom » garde son contenu."
+    suite="« $nom » garde son contenu"
+    [ "$genre" = ligne ] && suite="« $nom » n'est pas ajouté"
+    dire "$paquet n'a pas pu être installé (pas de réseau ?) : $suite."
     echecs=1
     continue
   fi

@@ -92,7 +92,8 @@ verifie "sans réseau sans erreur" lance "$p" FAUX_PANNE=1
 verifie "échantillon gardé sans réseau" cmp -s "$p/lex.eng" "$depot/bundle/lex.eng"
 verifie "chaque paquet essayé seul" grep -qx 'apt-get install -y -qq --no-install-recommends dict-jargon' "$tmp/journal"
 verifie "rien importé sans réseau" test -z "$(grep lex-import "$tmp/journal")"
-verifie "dit sans réseau" grep -q "dict-freedict-eng-fra n'a pas pu être installé (pas de réseau ?)" "$tmp/sortie"
+verifie "dit sans réseau" grep -qF "dict-freedict-eng-fra n'a pas pu être installé (pas de réseau ?) : « ANGLAIS francais » garde son contenu." "$tmp/sortie"
+verifie "ligne non ajoutée dite" grep -qF "dict-jargon n'a pas pu être installé (pas de réseau ?) : « Jargon (anglais) » n'est pas ajouté." "$tmp/sortie"
 verifie "dit que LEX démarre sur ses exemples" grep -q "dictionnaires d'exemple" "$tmp/sortie"
 # ... and the next start tries again.
 lance "$p"
