@@ -25,6 +25,8 @@ TEST(ReplieurAnsi, KeepsWhatWindows1252HoldsAndFoldsTheRest) {
   const std::vector<std::string> attendus = {"\xC5\x91\xE2\x86\x92o", "\xEF\xAC\x81\xE2\x86\x92" "fi",
                                              "\xE2\x80\x90\xE2\x86\x92-", "\xE4\xB8\xAD\xE2\x86\x92?"};
   EXPECT_EQ(r.Exemples(), attendus);
+  // The Jargon File's angle brackets (U+2329, U+3009) read as brackets, not as "?".
+  EXPECT_EQ(r.Replie("\xE2\x8C\xA9x\xE3\x80\x89"), "<x>");
 }
 
 TEST(ReplieurAnsi, EveryWindows1252ByteComesBackAsItWas) {

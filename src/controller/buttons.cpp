@@ -92,9 +92,11 @@ void CmdDic_Click(Form& f) {
 }
 
 void CmdDivers_Click(Form& f) {
-  // "Liste": back from the page to the list; "Annuler": no comparison after all.
+  // "Liste": back from the page to the list, or from the article to its page; "Annuler": no
+  // comparison after all.
   const Mode m = f.fenetre.ModeCourant();
-  if (SurUneListe(m) || m == Mode::ChoixComparaison || m == Mode::CreationDictio || SaisieArticle(m)) RetourIndex(f);
+  if (DansUnDictionnaire(m) || m == Mode::ChoixComparaison || m == Mode::CreationDictio || SaisieArticle(m))
+    RetourIndex(f);
   FocusChamp(f);
 }
 

@@ -124,7 +124,7 @@ void EntrerArticle(Form& f, std::int32_t numero, const std::string& article, std
     f.ui.SetPaneVisible(true);
     f.ui.FocusPane();
   }
-  PoseBoutons(f, "Index", nullptr);
+  PoseBoutons(f, "Index", "Liste");
   if (curseur == std::string::npos) SurNumero(f, article, 2);
   else PoseCurseur(f, curseur);
   AfficheStatus(f);
