@@ -8,6 +8,7 @@
 
 #include "exchange/dictd.h"
 #include "exchange/dictzip.h"
+#include "import_support.h"
 #include "test_support.h"
 
 using namespace lex::exchange;
@@ -55,7 +56,7 @@ struct Source {
   }
 };
 
-using Lignes = std::vector<std::string>;
+using lex::test::Lignes;
 
 class Dictd : public ::testing::Test {
  protected:
@@ -64,24 +65,9 @@ class Dictd : public ::testing::Test {
     std::ofstream(f, std::ios::binary) << octets;
     return f;
   }
-  std::vector<Lignes> Lit(const std::filesystem::path& f) {
-    std::vector<Lignes> lus;
-    LitDictd(f, [&](ArticleImporte&& a) {
-      Lignes l{a.index};
-      l.insert(l.end(), a.definition.begin(), a.definition.end());
-      lus.push_back(l);
-    });
-    return lus;
-  }
-  // The place and the problem of the error, after checking that it names `fichier`.
+  std::vector<Lignes> Lit(const std::filesystem::path& f) { return lex::test::Articles(LitDictd, f); }
   std::string Erreur(const std::filesystem::path& f, const std::string& fichier) {
-    try {
-      Lit(f);
-    } catch (const ErreurImport& e) {
-      EXPECT_NE(std::string(e.what()).find(fichier), std::string::npos) << e.what();
-      return e.endroit() + " | " + e.probleme();
-    }
-    return "lu sans erreur";
+    return lex::test::Refus(LitDictd, f, fichier);
   }
   lex::test::DossierTemp dossier_;
 };

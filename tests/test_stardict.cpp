@@ -6,6 +6,7 @@
 
 #include "exchange/dictzip.h"
 #include "exchange/stardict.h"
+#include "import_support.h"
 #include "test_support.h"
 
 using namespace lex::exchange;
@@ -48,7 +49,7 @@ struct Source {
   }
 };
 
-using Lignes = std::vector<std::string>;
+using lex::test::Lignes;
 
 class StarDict : public ::testing::Test {
  protected:
@@ -67,23 +68,9 @@ class StarDict : public ::testing::Test {
       Ecrit(nom + ".dict", s.dict);
     return Ecrit(nom + ".ifo", s.Ifo(mots == SIZE_MAX ? s.idx.size() : mots));
   }
-  std::vector<Lignes> Lit(const std::filesystem::path& f) {
-    std::vector<Lignes> lus;
-    LitStarDict(f, [&](ArticleImporte&& a) {
-      Lignes l{a.index};
-      l.insert(l.end(), a.definition.begin(), a.definition.end());
-      lus.push_back(l);
-    });
-    return lus;
-  }
+  std::vector<Lignes> Lit(const std::filesystem::path& f) { return lex::test::Articles(LitStarDict, f); }
   std::string Erreur(const std::filesystem::path& f, const std::string& fichier) {
-    try {
-      Lit(f);
-    } catch (const ErreurImport& e) {
-      EXPECT_NE(std::string(e.what()).find(fichier), std::string::npos) << e.what();
-      return e.endroit() + " | " + e.probleme();
-    }
-    return "lu sans erreur";
+    return lex::test::Refus(LitStarDict, f, fichier);
   }
   lex::test::DossierTemp dossier_;
 };

@@ -35,18 +35,6 @@ fs::path Donnees(const fs::path& base) {
   return base.string() + ".dict";
 }
 
-std::string LitFichier(const fs::path& chemin) {
-  std::ifstream f(chemin, std::ios::binary);
-  if (!f) throw ErreurImport(chemin.string(), "", "fichier introuvable ou illisible");
-  std::string s;
-  f.seekg(0, std::ios::end);
-  s.resize(static_cast<std::size_t>(f.tellg()));
-  f.seekg(0);
-  if (!s.empty() && !f.read(s.data(), static_cast<std::streamsize>(s.size())))
-    throw ErreurImport(chemin.string(), "", "lecture impossible");
-  return s;
-}
-
 constexpr std::array<signed char, 256> TableBase64() {
   std::array<signed char, 256> t{};
   for (auto& v : t) v = -1;
@@ -241,7 +229,7 @@ void LitDictd(const fs::path& chemin, const Recepteur& recepteur) {
   const fs::path base = Base(chemin);
   const fs::path index = base.string() + ".index";
   const fs::path donnees = Donnees(base);
-  const std::string texte = LitFichier(index);
+  const std::string texte = LitFichierSource(index);
   if (texte.find_first_not_of(" \t\r\n") == std::string::npos) throw ErreurImport(index.string(), "", "fichier vide");
   std::vector<Entree> entrees = LitIndex(texte, index);
   {

@@ -374,4 +374,16 @@ void EcrireDictzip(EcritureSure& sortie, std::string_view donnees, std::string_v
   sortie.Ecrire(CompresseDictzip(donnees, nom, morceau));
 }
 
+std::string LitFichierSource(const std::filesystem::path& chemin) {
+  std::ifstream f(chemin, std::ios::binary);
+  if (!f) throw ErreurImport(chemin.string(), "", "fichier introuvable ou illisible");
+  std::string s;
+  f.seekg(0, std::ios::end);
+  s.resize(static_cast<std::size_t>(f.tellg()));
+  f.seekg(0);
+  if (!s.empty() && !f.read(s.data(), static_cast<std::streamsize>(s.size())))
+    throw ErreurImport(chemin.string(), "", "lecture impossible");
+  return s;
+}
+
 }  // namespace lex::exchange

@@ -20,6 +20,9 @@ inline constexpr std::size_t kMorceauDictzip = 58315;
 
 // A ".dz" file opened for reading. Every failure (missing file, not gzip, truncated or damaged
 // data) is an ErreurImport naming the file.
+// A file of the source read whole, at once; an ErreurImport naming it when it cannot be.
+std::string LitFichierSource(const std::filesystem::path& chemin);
+
 class LecteurDictzip {
  public:
   explicit LecteurDictzip(const std::filesystem::path& chemin);

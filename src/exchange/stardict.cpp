@@ -46,15 +46,7 @@ fs::path Premier(const fs::path& base, std::initializer_list<std::string_view> f
 
 std::string LitFichier(const fs::path& chemin) {
   if (FinitPar(chemin.string(), ".gz") || FinitPar(chemin.string(), ".dz")) return LecteurDictzip(chemin).LireTout();
-  std::ifstream f(chemin, std::ios::binary);
-  if (!f) throw ErreurImport(chemin.string(), "", "fichier introuvable ou illisible");
-  std::string s;
-  f.seekg(0, std::ios::end);
-  s.resize(static_cast<std::size_t>(f.tellg()));
-  f.seekg(0);
-  if (!s.empty() && !f.read(s.data(), static_cast<std::streamsize>(s.size())))
-    throw ErreurImport(chemin.string(), "", "lecture impossible");
-  return s;
+  return LitFichierSource(chemin);
 }
 
 struct Description {
