@@ -2,26 +2,17 @@
 // as tab-separated UTF-8 text, which lex-import and other readers take. The work is in the
 // exchange floor; this reads the command line and tells the user, in French, what was done.
 #include <iostream>
-#include <new>
 #include <string>
 #include <string_view>
 #include <vector>
 
-#include "base/encoding.h"
-#include "base/error.h"
-#include "data/write_error.h"
-#include "exchange/article.h"
+#include "app/convert/failure.h"
 #include "exchange/export.h"
 
 namespace {
 
 using namespace lex;
 using namespace lex::exchange;
-
-int Echec(const std::string& message) {
-  std::cerr << "lex-export : " << message << "\n";
-  return 1;
-}
 
 int Usage(const std::string& pourquoi) {
   std::cerr << "lex-export : " << pourquoi << "\n"
@@ -49,22 +40,12 @@ int main(int argc, char** argv) {
   if (format.empty()) return Usage("--format manque (stardict ou tab)");
   if (format != "stardict" && format != "tab") return Usage("format inconnu : " + format + " (stardict ou tab)");
   if (libres.size() != 2) return Usage("il faut un DICTIONNAIRE et une SORTIE");
-  try {
+  return lex::convert::Execute("lex-export", [&] {
     const BilanExport bilan =
         format == "stardict" ? ExporteStarDict(libres[0], libres[1]) : ExporteTabulations(libres[0], libres[1]);
     std::cout << bilan.articles << (bilan.articles > 1 ? " articles export\xC3\xA9s dans " : " article export\xC3\xA9 dans ");
     for (std::size_t i = 0; i < bilan.fichiers.size(); ++i) std::cout << (i ? ", " : "") << bilan.fichiers[i].string();
     std::cout << "\n";
     return 0;
-  } catch (const ErreurImport& e) {
-    return Echec(e.what());
-  } catch (const ErreurEcriture& e) {
-    return Echec(AnsiVersUtf8(MessageErreurEcriture(e)));
-  } catch (const LexError& e) {
-    return Echec(AnsiVersUtf8(LexError::Texte(e.numero())));
-  } catch (const std::bad_alloc&) {
-    return Echec("m\xC3\xA9moire insuffisante");
-  } catch (const std::exception& e) {
-    return Echec(e.what());
-  }
+  });
 }

@@ -13,6 +13,7 @@
 #include "base/encoding.h"
 #include "base/error.h"
 #include "data/write_error.h"
+#include "app/convert/failure.h"
 #include "exchange/catalogue_addition.h"
 #include "exchange/dictionary_writer.h"
 #include "exchange/formats.h"
@@ -39,10 +40,7 @@ int Usage(const std::string& pourquoi) {
   return 1;
 }
 
-int Echec(const std::string& message) {
-  std::cerr << "lex-import : " << message << "\n";
-  return 1;
-}
+int Echec(const std::string& message) { return lex::convert::Echec("lex-import", message); }
 
 std::string Pluriel(std::size_t n, const char* mot) { return n > 1 ? std::string(mot) + "s" : mot; }
 
@@ -143,17 +141,5 @@ int Importe(const Options& o) {
 int main(int argc, char** argv) {
   Options o;
   if (const auto erreur = Lit(argc, argv, o)) return Usage(*erreur);
-  try {
-    return Importe(o);
-  } catch (const ErreurImport& e) {
-    return Echec(e.what());
-  } catch (const ErreurEcriture& e) {
-    return Echec(AnsiVersUtf8(MessageErreurEcriture(e)));
-  } catch (const LexError& e) {
-    return Echec(AnsiVersUtf8(LexError::Texte(e.numero())));
-  } catch (const std::bad_alloc&) {
-    return Echec("m\xC3\xA9moire insuffisante");
-  } catch (const std::exception& e) {
-    return Echec(e.what());
-  }
+  return lex::convert::Execute("lex-import", [&] { return Importe(o); });
 }
