@@ -6,10 +6,14 @@
 //  - the peak memory of that import (the child's maximum resident set) against the size of
 //    the file it writes, target 2x.
 // See bench_common.h for the arguments and the output.
-#include <sys/resource.h>
 #include <sys/wait.h>
 
+#include <algorithm>
+#include <chrono>
 #include <filesystem>
+#include <fstream>
+#include <string>
+#include <thread>
 
 #include "bench_common.h"
 #include "exchange/export.h"
@@ -25,8 +29,18 @@ struct Enfant {
   std::int64_t memoire = 0;  // maximum resident set, bytes
 };
 
-// Runs the command and gives its wall time and its own peak memory (wait4's usage is the
-// child's alone, not that of every child waited for).
+// The peak resident set of the process `pid` so far (VmHWM), in bytes; 0 once it is gone.
+// Its exec gave it a memory of its own, which this reads; the maximum that wait4 reports
+// would also hold what this program itself had in memory when the child was started.
+std::int64_t PicMemoire(pid_t pid) {
+  std::ifstream f("/proc/" + std::to_string(pid) + "/status");
+  std::string ligne;
+  while (std::getline(f, ligne))
+    if (ligne.rfind("VmHWM:", 0) == 0) return std::stoll(ligne.substr(6)) * 1024;
+  return 0;
+}
+
+// Runs the command and gives its wall time and its own peak memory, read while it runs.
 Enfant Lance(const std::vector<std::string>& args) {
   std::vector<char*> argv;
   for (const std::string& a : args) argv.push_back(const_cast<char*>(a.c_str()));
@@ -40,11 +54,16 @@ Enfant Lance(const std::vector<std::string>& args) {
   posix_spawn_file_actions_destroy(&actions);
   if (rc != 0) Echec("cannot start " + args[0] + ": " + std::strerror(rc));
   int statut = 0;
-  rusage usage{};
-  if (wait4(pid, &statut, 0, &usage) < 0) Echec("wait4 failed");
   Enfant e;
+  for (;;) {
+    // Read before the check: a child that has just ended is a zombie whose memory is gone.
+    e.memoire = std::max(e.memoire, PicMemoire(pid));
+    const pid_t fini = waitpid(pid, &statut, WNOHANG);
+    if (fini < 0) Echec("waitpid failed");
+    if (fini == pid) break;
+    std::this_thread::sleep_for(std::chrono::milliseconds(2));
+  }
   e.secondes = Secondes(t0, Horloge::now());
-  e.memoire = static_cast<std::int64_t>(usage.ru_maxrss) * 1024;
   if (!WIFEXITED(statut) || WEXITSTATUS(statut) != 0) Echec(args[0] + " failed");
   return e;
 }
