@@ -15,12 +15,6 @@
 #include "fuzz_dictionary.h"
 #include "fuzz_folder.h"
 
-extern "C" int LLVMFuzzerInitialize(int*, char***) {
-  // The dictionary is forced to the disk as the user's files are: in memory that costs nothing.
-  if (std::filesystem::is_directory("/dev/shm")) setenv("TMPDIR", "/dev/shm", 1);
-  return 0;
-}
-
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   using namespace lex;
   using namespace lex::exchange;

@@ -11,13 +11,20 @@
 
 namespace lex::fuzz {
 
+// In memory when the system has such a folder: the files written are forced to the disk as the
+// user's are, which costs nothing there.
+inline std::filesystem::path Racine() {
+  return std::filesystem::is_directory("/dev/shm") ? std::filesystem::path("/dev/shm")
+                                                   : std::filesystem::temp_directory_path();
+}
+
 inline const std::string& Dossier() {
   static const std::string d = [] {
-    const auto p = std::filesystem::temp_directory_path() / ("lex-fuzz-" + std::to_string(::getpid()));
+    const auto p = Racine() / ("lex-fuzz-" + std::to_string(::getpid()));
     std::filesystem::create_directories(p);
     std::atexit([] {
       std::error_code ec;
-      std::filesystem::remove_all(std::filesystem::temp_directory_path() / ("lex-fuzz-" + std::to_string(::getpid())), ec);
+      std::filesystem::remove_all(Racine() / ("lex-fuzz-" + std::to_string(::getpid())), ec);
     });
     return p.string() + "/";
   }();

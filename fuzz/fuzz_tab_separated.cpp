@@ -13,13 +13,6 @@
 #include "fuzz_dictionary.h"
 #include "fuzz_folder.h"
 
-extern "C" int LLVMFuzzerInitialize(int*, char***) {
-  // The dictionary is written as the user's files are, forced to the disk: in memory that
-  // costs nothing.
-  if (std::filesystem::is_directory("/dev/shm")) setenv("TMPDIR", "/dev/shm", 1);
-  return 0;
-}
-
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   using namespace lex;
   using namespace lex::exchange;
