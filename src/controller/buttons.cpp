@@ -1,5 +1,7 @@
 #include "controller/buttons.h"
 
+#include <algorithm>
+
 #include "base/error.h"
 #include "controller/article_view.h"
 #include "controller/comparison.h"
@@ -50,8 +52,7 @@ void RetourIndex(Form& f) {
     case Mode::ChoixComparaison: AbandonneChoixComparaison(f); break;
     case Mode::ListeResultats: {
       // A result list gives way to the dictionary's own index, on the entry it was on.
-      const std::int32_t numero = f.liste.Nombre() > 0 ? f.liste.NumeroDictio(IndexAbsolu(f)) : 1;
-      EntrerIndex(f, numero, Annonce::ApresLeTitre);
+      EntrerIndex(f, std::max(f.EntreeDictio(), 1), Annonce::ApresLeTitre);
       break;
     }
     case Mode::Index:

@@ -12,7 +12,7 @@ namespace lex {
 std::int32_t EntreeDuDictionnaire(const Form& f) {
   const EtatFenetre& w = f.fenetre;
   const Mode m = w.ModeCourant();
-  if (DansUnDictionnaire(m)) return f.liste.Nombre() > 0 ? f.liste.NumeroDictio(f.EntreeCourante()) : 0;
+  if (DansUnDictionnaire(m)) return f.EntreeDictio();
   switch (m) {
     case Mode::CreationIndex:
     case Mode::ModificationIndex: return w.EntreeAvantSaisie;

@@ -66,6 +66,8 @@ class EcranListe {
   // The entry the user is on, in the list shown: the article being read, or the line under
   // the caret.
   virtual std::int32_t EntreeCourante() const = 0;
+  // The dictionary's own number of that entry; 0 when the list is empty.
+  std::int32_t EntreeDictio() const { return Liste().Nombre() > 0 ? Liste().NumeroDictio(EntreeCourante()) : 0; }
 };
 
 }  // namespace lex

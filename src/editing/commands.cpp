@@ -21,8 +21,7 @@ bool DansLeDictionnaire(PartiesEdition& p) {
 // The dictionary's own entry the user is on; 0 (with a beep and a word) when the list is
 // empty.
 std::int32_t EntreeDictio(PartiesEdition& p) {
-  const ListeAffichee& liste = p.ecran.Liste();
-  if (liste.Nombre() > 0) return liste.NumeroDictio(p.ecran.EntreeCourante());
+  if (const std::int32_t n = p.ecran.EntreeDictio()) return n;
   p.ecran.Beep();
   p.ecran.message("aucun index");
   return 0;
@@ -43,8 +42,7 @@ const std::vector<std::int32_t>& Selectionnes(const PartiesEdition& p) {
 // Entries removed: the user stays on their entry, or goes to the one that followed it (the
 // one before at the end).
 void RetireEntrees(PartiesEdition& p, std::vector<std::int32_t> retires) {
-  const ListeAffichee& liste = p.ecran.Liste();
-  const std::int32_t ici = liste.Nombre() > 0 ? liste.NumeroDictio(p.ecran.EntreeCourante()) : 1;
+  const std::int32_t ici = std::max(p.ecran.EntreeDictio(), 1);
   std::sort(retires.begin(), retires.end());
   retires.erase(std::unique(retires.begin(), retires.end()), retires.end());
   Retouche r;
@@ -63,9 +61,7 @@ void RetireEntrees(PartiesEdition& p, std::vector<std::int32_t> retires) {
 void mnuCreationIndex(PartiesEdition& p) {
   ErrorTrap trap(" sur mnuCreationIndex");
   if (!DansLeDictionnaire(p)) return;
-  const ListeAffichee& liste = p.ecran.Liste();
-  const std::int32_t ici = liste.Nombre() > 0 ? liste.NumeroDictio(p.ecran.EntreeCourante()) : 0;
-  p.ecran.EntrerSaisie(Mode::CreationIndex, ici, "");
+  p.ecran.EntrerSaisie(Mode::CreationIndex, p.ecran.EntreeDictio(), "");
   p.ecran.message("tapez l'index puis la d\xE9" "finition");
 }
 

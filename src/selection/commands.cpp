@@ -8,12 +8,6 @@
 namespace lex {
 namespace {
 
-// The entry under the caret, by the dictionary's own number; 0 when the list is empty.
-std::int32_t EntreeSousCurseur(const PartiesSelection& p) {
-  const ListeAffichee& liste = p.ecran.Liste();
-  return liste.Nombre() == 0 ? 0 : liste.NumeroDictio(p.ecran.EntreeCourante());
-}
-
 // Selecting is refused while another dictionary holds a selection: it never spans two.
 bool SelectionAilleurs(PartiesSelection& p) {
   if (AutreDictioSelectionne(p.selections, p.dictioCourant) == 0) return false;
@@ -26,7 +20,7 @@ bool SelectionAilleurs(PartiesSelection& p) {
 
 void SelectionIndex(PartiesSelection& p) {
   ErrorTrap trap(" sur SelectionIndex");
-  const std::int32_t n = SurUneListe(p.ecran.mode()) ? EntreeSousCurseur(p) : 0;
+  const std::int32_t n = SurUneListe(p.ecran.mode()) ? p.ecran.EntreeDictio() : 0;
   if (n == 0) {
     p.ecran.Beep();
     return;
@@ -39,7 +33,7 @@ void SelectionIndex(PartiesSelection& p) {
 
 void DeselectionIndex(PartiesSelection& p) {
   ErrorTrap trap(" sur DeSelectionIndex");
-  const std::int32_t n = SurUneListe(p.ecran.mode()) ? EntreeSousCurseur(p) : 0;
+  const std::int32_t n = SurUneListe(p.ecran.mode()) ? p.ecran.EntreeDictio() : 0;
   if (n == 0 || !Deselectionne(p.selections, p.dico.TableIndex, p.dictioCourant, n)) {
     p.ecran.Beep();
     return;
